@@ -1,0 +1,49 @@
+# One target per source folder ("room"). A room links only rooms on lower floors, so that an
+# upward dependency fails to link as well as failing the include test.
+
+add_library(vantrel_flags INTERFACE)
+target_include_directories(vantrel_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(vantrel_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+  -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual)
+if(VANTREL_WERROR)
+  target_compile_options(vantrel_flags INTERFACE -Werror)
+endif()
+if(VANTREL_HARDEN)
+  target_compile_options(vantrel_flags INTERFACE -fstack-protector-strong -fstack-clash-protection
+    -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -D_GLIBCXX_ASSERTIONS)
+  target_link_options(vantrel_flags INTERFACE -Wl,-z,relro -Wl,-z,now)
+  # Libraries are compiled position independent; the executables are linked as PIE.
+  target_link_options(vantrel_flags INTERFACE $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>)
+endif()
+if(VANTREL_SANITIZE)
+  target_compile_options(vantrel_flags INTERFACE -fsanitize=address,undefined
+    -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+  target_link_options(vantrel_flags INTERFACE -fsanitize=address,undefined)
+  target_compile_definitions(vantrel_flags INTERFACE _GLIBCXX_ASSERTIONS)
+endif()
+
+if(VANTREL_WINDOWS)
+  find_package(wxWidgets 3.2 REQUIRED COMPONENTS core base)
+  add_library(vantrel_wx INTERFACE)
+  # As system headers: the toolkit's own headers are not ours to warn about.
+  target_include_directories(vantrel_wx SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
+  target_compile_definitions(vantrel_wx INTERFACE ${wxWidgets_DEFINITIONS})
+  target_compile_options(vantrel_wx INTERFACE ${wxWidgets_CXX_FLAGS})
+  target_link_libraries(vantrel_wx INTERFACE ${wxWidgets_LIBRARIES})
+endif()
+
+# vantrel_room(NAME FOLDER [LINKS...]): the static library vantrel_NAME of all sources directly in
+# src/FOLDER.
+function(vantrel_room name folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp
+    ${CMAKE_SOURCE_DIR}/src/${folder}/*.h)
+  set(has_code ${sources})
+  list(FILTER has_code INCLUDE REGEX "\\.cpp$")
+  if(has_code)
+    add_library(vantrel_${name} STATIC ${sources})
+    target_link_libraries(vantrel_${name} PUBLIC vantrel_flags ${ARGN})
+  else()
+    add_library(vantrel_${name} INTERFACE)
+    target_link_libraries(vantrel_${name} INTERFACE vantrel_flags ${ARGN})
+  endif()
+endfunction()

@@ -1,0 +1,41 @@
+// What gestures need of the window and the frame around them. CanvasPanel implements it; tests
+// implement it with a recorder.
+#pragma once
+
+#include <string>
+
+#include "doc/view_transform.h"
+#include "workspace/workspace.h"
+
+namespace vantrel {
+
+enum class CanvasCursor { normal, cross, hand, sizeNwse, sizeNs, sizeNesw, sizeWe };
+
+enum class BoxIcon { information, exclamation, warning, question, error };
+
+class CanvasHost {
+ public:
+  virtual ~CanvasHost() = default;
+
+  virtual DeviceSize clientSize() const = 0;
+
+  virtual bool hasCapture() const = 0;
+  virtual void captureMouse() = 0;  // nothing when it is held
+  virtual void releaseMouse() = 0;  // nothing when it is not held
+  virtual void takeFocus() = 0;
+  virtual void setCursor(CanvasCursor cursor) = 0;
+  virtual void repaint() = 0;
+
+  virtual void setStatus(StatusField field, const std::string& text) = 0;
+  virtual std::string status(StatusField field) const = 0;
+
+  // Message boxes with the frame as parent. `ask` is a Yes/No question, true for Yes.
+  virtual void inform(const std::string& title, const std::string& text, BoxIcon icon) = 0;
+  virtual bool ask(const std::string& title, const std::string& text, bool defaultYes) = 0;
+
+  virtual void selectionChanged() = 0;
+  virtual void markDirty() = 0;
+  virtual void noteCanvasClick(Vec2 world) = 0;
+};
+
+}  // namespace vantrel

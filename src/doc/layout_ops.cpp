@@ -1,0 +1,121 @@
+#include "doc/layout_ops.h"
+
+#include <limits>
+
+namespace vantrel {
+namespace {
+
+constexpr std::int32_t kLastId = std::numeric_limits<std::int32_t>::max();
+
+template <typename Record>
+void CollectIds(const std::vector<Record>& records, std::unordered_set<std::int32_t>& ids) {
+  for (const Record& record : records) ids.insert(record.id);
+}
+
+std::int32_t LowestFreeId(const Layout& layout) {
+  std::unordered_set<std::int32_t> used;
+  CollectIds(layout.pieces, used);
+  CollectIds(layout.scenery, used);
+  CollectIds(layout.labels, used);
+  CollectIds(layout.measurements, used);
+  CollectIds(layout.shapes, used);
+  CollectIds(layout.tunnels, used);
+  CollectIds(layout.helices, used);
+  std::int32_t id = 1;
+  while (used.contains(id)) ++id;
+  return id;
+}
+
+template <typename Record>
+void Deselect(std::vector<Record>& records) {
+  for (Record& record : records) record.sel = false;
+}
+
+}  // namespace
+
+std::int32_t TakeId(Layout& layout) {
+  if (layout.nextId >= kLastId) return LowestFreeId(layout);
+  return layout.nextId++;
+}
+
+void EnsureDefaultLevel(Layout& layout) {
+  if (!layout.levels.empty()) return;
+  Level level;
+  level.r = 180;
+  level.g = 200;
+  level.b = 220;
+  layout.levels.push_back(level);
+}
+
+void ClearSelection(Layout& layout) {
+  Deselect(layout.pieces);
+  Deselect(layout.scenery);
+  Deselect(layout.labels);
+  Deselect(layout.measurements);
+  Deselect(layout.shapes);
+}
+
+void SyncCurrentGrade(Layout& layout) {
+  if (layout.gradeRuns.empty()) {
+    layout.currentGrade = CurrentGrade{};
+    return;
+  }
+  const GradeRun& last = layout.gradeRuns.back();
+  layout.currentGrade = {.active = true, .deg = last.deg, .anchor = last.anchor, .conn = last.conn};
+}
+
+void ResetGrades(Layout& layout) {
+  layout.gradeRuns.clear();
+  SyncCurrentGrade(layout);
+}
+
+Piece* FindPiece(Layout& layout, std::int32_t id) {
+  for (Piece& piece : layout.pieces)
+    if (piece.id == id) return &piece;
+  return nullptr;
+}
+
+const Piece* FindPiece(const Layout& layout, std::int32_t id) {
+  for (const Piece& piece : layout.pieces)
+    if (piece.id == id) return &piece;
+  return nullptr;
+}
+
+const Level* FindLevel(const Layout& layout, std::int32_t id) {
+  for (const Level& level : layout.levels)
+    if (level.id == id) return &level;
+  return nullptr;
+}
+
+bool IsLevelHidden(const Layout& layout, std::int32_t levelId) {
+  for (const Level& level : layout.levels)
+    if (level.id == levelId && !level.visible) return true;
+  return false;
+}
+
+std::unordered_set<std::int32_t> HiddenLevels(const Layout& layout) {
+  std::unordered_set<std::int32_t> hidden;
+  for (const Level& level : layout.levels)
+    if (!level.visible) hidden.insert(level.id);
+  return hidden;
+}
+
+PieceIndex IndexPieces(const Layout& layout) {
+  PieceIndex index;
+  index.reserve(layout.pieces.size());
+  for (std::size_t i = 0; i < layout.pieces.size(); ++i) index.emplace(layout.pieces[i].id, i);
+  return index;
+}
+
+std::int32_t HighestVisibleLevel(const Layout& layout) {
+  std::int32_t id = layout.activeLevel;
+  double highest = -1e9;
+  for (const Level& level : layout.levels) {
+    if (!level.visible || !(level.height > highest)) continue;
+    highest = level.height;
+    id = level.id;
+  }
+  return id;
+}
+
+}  // namespace vantrel
