@@ -1,0 +1,45 @@
+# Shared by run.sh and test.sh: what they install, how they build. Sourced, not run.
+# shellcheck shell=bash
+
+build_packages=(g++ cmake ninja-build libwxgtk3.2-dev libgtest-dev libgl1-mesa-dri)
+display_packages=(xvfb xauth x11-utils openbox xdotool imagemagick fonts-dejavu-core)
+
+# need_packages PACKAGE...: installs what is missing, and does nothing when nothing is.
+need_packages() {
+  local package missing=()
+  for package in "$@"; do
+    if [ "$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null)" != "install ok installed" ]; then
+      missing+=("$package")
+    fi
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "Please install: ${missing[*]}" >&2; return 1; }
+    as_root=(sudo)
+  fi
+  echo "Installing ${missing[*]}"
+  "${as_root[@]}" apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build PRESET [TARGET...]: configures once, then builds what changed.
+build() {
+  local preset=$1 target=()
+  shift
+  [ $# -gt 0 ] && target=(--target "$@")
+  (
+    cd "$root" || exit 1
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
+    cmake --build --preset "$preset" "${target[@]}"
+  )
+}
+
+# have_display: whether a program started now could open a window.
+have_display() {
+  [ -n "${WAYLAND_DISPLAY:-}" ] && return 0
+  [ -n "${DISPLAY:-}" ] || return 1
+  command -v xdpyinfo >/dev/null || return 0
+  timeout 5 xdpyinfo >/dev/null 2>&1
+}

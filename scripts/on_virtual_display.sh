@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# on_virtual_display.sh COMMAND...: runs a command on a virtual display of its own with a window
+# manager, and takes both down again. The exit status is the command's.
+set -uo pipefail
+
+numbers=$(mktemp)
+Xvfb -displayfd 3 -screen 0 1600x1100x24 -nolisten tcp 3>"$numbers" 2>/dev/null &
+server=$!
+window_manager=
+cleanup() {
+  [ -n "$window_manager" ] && kill "$window_manager" 2>/dev/null
+  kill "$server" 2>/dev/null
+  wait 2>/dev/null
+  rm -f "$numbers"
+}
+trap cleanup EXIT
+for _ in $(seq 100); do
+  [ -s "$numbers" ] && break
+  sleep 0.1
+done
+[ -s "$numbers" ] || { echo "The virtual display did not start" >&2; exit 1; }
+
+unset WAYLAND_DISPLAY
+DISPLAY=:$(tr -d '\n' <"$numbers")
+export DISPLAY
+# No accessibility or session bus on a bare display: the toolkit would wait for one.
+export NO_AT_BRIDGE=1 GDK_BACKEND=x11 LIBGL_ALWAYS_SOFTWARE=1
+openbox >/dev/null 2>&1 &
+window_manager=$!
+"$@"
