@@ -8,11 +8,15 @@
 
 namespace vantrel {
 
+struct TextExtents;
+
 struct RenderContext {
   const Layout* layout = nullptr;  // null for a piece drawn outside a layout
   // Ids of helix stubs and of what is joined to them without a grade of its own: these keep their
   // plain colours although they are high. Filled anew by each DrawLayoutContents.
   std::unordered_set<std::int32_t> helixLinked;
+  // Texts measured in the paint under way; null outside one. Lent by TextExtentsOfPaint.
+  TextExtents* textExtents = nullptr;
 };
 
 }  // namespace vantrel
