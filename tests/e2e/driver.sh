@@ -70,18 +70,50 @@ find_canvas() {
   [ -n "$canvas_x" ] && [ -n "$canvas_y" ]
 }
 
-# find_palette: sets palette_x, palette_y to the first header row of the track page (its top left).
+# find_palette: sets palette_x, palette_y to the top left corner of the first section header of the
+# track page, palette_columns and palette_pitch to the columns that its width gives.
 find_palette() {
-  read -r palette_x palette_y < <(pixels '#4B5564' | sort -k2,2n -k1,1n | head -n 1)
-  [ -n "${palette_y:-}" ] || problem="no section header in the palette"
-  [ -n "${palette_y:-}" ]
+  local band width
+  band=$(pixels '#4B5564')
+  [ -n "$band" ] || { problem="no section header in the palette"; return 1; }
+  palette_y=$(awk '{print $2}' <<<"$band" | sort -n | head -n 1)
+  palette_x=$(awk '{print $1}' <<<"$band" | sort -n | head -n 1)
+  width=$(($(awk '{print $1}' <<<"$band" | sort -n | tail -n 1) - palette_x + 1))
+  palette_columns=1
+  [ "$width" -ge 156 ] && palette_columns=2
+  [ "$width" -ge 228 ] && palette_columns=3
+  palette_pitch=$(((width - 6) / palette_columns))
 }
 
-# cell ROW COLUMN: the screen point in the middle of an icon of the palette's first section (from 0).
+# cell SECTION-SIZES INDEX: the screen point in the middle of the icon number INDEX (from 0) of the
+# section behind sections of these sizes ("9 14" or ""), with the palette scrolled to its top.
 # A header is 22 pixels high, an icon line 102, an icon 80; icons begin 6 pixels in.
 cell() {
-  local pitch=${palette_pitch:?}
-  echo $((palette_x + 6 + $2 * pitch + 40)) $((palette_y + 22 + $1 * 102 + 40))
+  local y=0 size
+  for size in $1; do
+    y=$((y + 22 + (size + palette_columns - 1) / palette_columns * 102))
+  done
+  y=$((y + 22 + $2 / palette_columns * 102 + 40))
+  echo $((palette_x + 6 + $2 % palette_columns * palette_pitch + 40)) $((palette_y + y))
+}
+
+# scroll_palette_to X Y: scrolls the palette until that point, given as if nothing were scrolled, is
+# in view, and sets point_x, point_y to where it is then.
+scroll_palette_to() {
+  local before after step clicks
+  before=$(pixels '#4B5564' | awk '{print $2}' | sort -n | tail -n 1)
+  move $((palette_x + 40)) $((palette_y + 200))
+  click 5
+  settle
+  after=$(pixels '#4B5564' | awk '{print $2}' | sort -n | tail -n 1)
+  step=$((before - after))
+  [ "$step" -gt 0 ] || { problem="the palette doesn't scroll"; return 1; }
+  clicks=$((($2 - palette_y - 300) / step + 1))
+  [ "$clicks" -lt 1 ] && clicks=1
+  for _ in $(seq 2 "$clicks"); do click 5; done
+  settle
+  point_x=$1
+  point_y=$(($2 - clicks * step))
 }
 
 move() { xdotool mousemove "$1" "$2"; sleep 0.05; }
@@ -100,15 +132,14 @@ press() { xdotool mousedown "${1:-1}"; sleep 0.08; }
 release() { xdotool mouseup "${1:-1}"; sleep 0.08; }
 click() { press "$@"; release "$@"; }
 
-# drag_from_palette ROW COLUMN X Y: presses on an icon, pulls the piece to a point of the canvas,
-# lets the button go and drops it with the next press.
-drag_from_palette() {
-  # shellcheck disable=SC2046
-  move $(cell "$1" "$2")
+# drag_from X Y TO-X TO-Y: presses on an icon at a screen point, pulls the piece to a point of the
+# canvas, and lets the button go. The piece follows the pointer until the next press.
+drag_from() {
+  move "$1" "$2"
   press
   glide $((canvas_x + $3)) $((canvas_y + $4))
   release
-  glide $((canvas_x + $3 + 1)) $((canvas_y + $4))
+  glide $((canvas_x + $3 + 2)) $((canvas_y + $4))
   glide $((canvas_x + $3)) $((canvas_y + $4))
   settle
 }
