@@ -1,0 +1,275 @@
+#include "canvas/canvas_panel.h"
+
+#include <wx/cursor.h>
+#include <wx/dcbuffer.h>
+#include <wx/msgdlg.h>
+#include <wx/toplevel.h>
+#include <wx/utils.h>
+
+#include "canvas/event_order.h"
+#include "canvas/gestures/palette_drag.h"
+#include "canvas/gestures/scenery_drag.h"
+#include "canvas/gestures/view_navigation.h"
+
+namespace vantrel {
+namespace {
+
+wxCursor CursorFor(CanvasCursor cursor) {
+  switch (cursor) {
+    case CanvasCursor::normal:
+      return wxNullCursor;
+    case CanvasCursor::cross:
+      return wxCursor(wxCURSOR_CROSS);
+    case CanvasCursor::hand:
+      return wxCursor(wxCURSOR_HAND);
+    case CanvasCursor::sizeNwse:
+      return wxCursor(wxCURSOR_SIZENWSE);
+    case CanvasCursor::sizeNs:
+      return wxCursor(wxCURSOR_SIZENS);
+    case CanvasCursor::sizeNesw:
+      return wxCursor(wxCURSOR_SIZENESW);
+    case CanvasCursor::sizeWe:
+      return wxCursor(wxCURSOR_SIZEWE);
+  }
+  return wxNullCursor;
+}
+
+long IconStyle(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::information:
+      return wxICON_INFORMATION;
+    case BoxIcon::exclamation:
+      return wxICON_EXCLAMATION;
+    case BoxIcon::warning:
+      return wxICON_WARNING;
+    case BoxIcon::question:
+      return wxICON_QUESTION;
+    case BoxIcon::error:
+      return wxICON_ERROR;
+  }
+  return 0;
+}
+
+Modifiers ModifiersOf(const wxKeyboardState& state) {
+  return {.ctrl = state.ControlDown(), .shift = state.ShiftDown(), .alt = state.AltDown()};
+}
+
+KeyEvent KeyEventOf(const wxKeyEvent& event, int code) {
+  return {.code = code, .mods = ModifiersOf(event)};
+}
+
+}  // namespace
+
+CanvasPanel::CanvasPanel(wxWindow* parent, Workspace& workspace) : workspace_(workspace) {
+  SetBackgroundStyle(wxBG_STYLE_PAINT);
+  Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+         wxFULL_REPAINT_ON_RESIZE | wxWANTS_CHARS);
+  bindEvents();
+}
+
+CanvasPanel::~CanvasPanel() {
+  if (HasCapture()) ReleaseMouse();
+}
+
+void CanvasPanel::bindPointer(const wxEventTypeTag<wxMouseEvent>& type, PointerList list) {
+  Bind(type, [this, list](wxMouseEvent& event) {
+    CanvasContext canvas = context();
+    if (!list(canvas, pointerEvent(event))) event.Skip();
+  });
+}
+
+void CanvasPanel::bindEvents() {
+  bindPointer(wxEVT_LEFT_DOWN, onLeftPress);
+  bindPointer(wxEVT_LEFT_UP, onLeftRelease);
+  bindPointer(wxEVT_MOTION, onMotion);
+  bindPointer(wxEVT_MIDDLE_DOWN, onMiddlePress);
+  bindPointer(wxEVT_MIDDLE_UP, onMiddleRelease);
+  bindPointer(wxEVT_RIGHT_DOWN, onRightPress);
+  bindPointer(wxEVT_RIGHT_UP, onRightRelease);
+  // The second of two quick presses comes as a double click only. For these two buttons it is a
+  // press like any other: each one turns the dragged piece by a step.
+  bindPointer(wxEVT_MIDDLE_DCLICK, onMiddlePress);
+  bindPointer(wxEVT_RIGHT_DCLICK, onRightPress);
+  Bind(wxEVT_MOUSEWHEEL, &CanvasPanel::onWheelEvent, this);
+  Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) {
+    CanvasContext canvas = context();
+    onCaptureLost(canvas);
+  });
+  Bind(wxEVT_KEY_DOWN, &CanvasPanel::onKeyDown, this);
+  Bind(wxEVT_KEY_UP, &CanvasPanel::onKeyUp, this);
+  Bind(wxEVT_CHAR, &CanvasPanel::onChar, this);
+  Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
+    spaceHeld_ = false;
+    event.Skip();
+  });
+  Bind(wxEVT_PAINT, &CanvasPanel::onPaint, this);
+  Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+    Refresh();
+    event.Skip();
+  });
+}
+
+void CanvasPanel::onPaint(wxPaintEvent&) {
+  wxAutoBufferedPaintDC dc(this);
+  paintCanvas(context(), dc);
+}
+
+void CanvasPanel::onWheelEvent(wxMouseEvent& event) {
+  // A sideways wheel is not ours, but some platforms tell a wheel turned with Shift as one.
+  const bool sideways = event.GetWheelAxis() == wxMOUSE_WHEEL_HORIZONTAL && !event.ShiftDown();
+  CanvasContext canvas = context();
+  if (sideways || !onWheel(canvas, pointerEvent(event))) event.Skip();
+}
+
+void CanvasPanel::onKeyDown(wxKeyEvent& event) {
+  if (event.GetKeyCode() == WXK_SPACE) spaceHeld_ = true;
+  CanvasContext canvas = context();
+  if (!onKey(canvas, KeyEventOf(event, event.GetKeyCode()))) event.Skip();
+}
+
+void CanvasPanel::onKeyUp(wxKeyEvent& event) {
+  if (event.GetKeyCode() == WXK_SPACE) spaceHeld_ = false;
+  event.Skip();
+}
+
+void CanvasPanel::onChar(wxKeyEvent& event) {
+  const int code = event.GetUnicodeKey() != WXK_NONE ? static_cast<int>(event.GetUnicodeKey())
+                                                     : event.GetKeyCode();
+  CanvasContext canvas = context();
+  if (!onCharacter(canvas, KeyEventOf(event, code))) event.Skip();
+}
+
+PointerEvent CanvasPanel::pointerEvent(const wxMouseEvent& event) const {
+  const DevicePoint at{event.GetX(), event.GetY()};
+  return {.at = at,
+          .world = state_.view.toWorld(at),
+          .mods = ModifiersOf(event),
+          .leftDown = event.LeftIsDown(),
+          .middleDown = event.MiddleIsDown(),
+          .rightDown = event.RightIsDown(),
+          .spaceDown = spaceHeld_ || wxGetKeyState(WXK_SPACE),
+          .wheelRotation = event.GetWheelRotation()};
+}
+
+CanvasContext CanvasPanel::context() {
+  return {.layout = workspace_.layout(), .state = state_, .host = *this};
+}
+
+void CanvasPanel::zoomAt(wxPoint point, double factor) {
+  CanvasContext canvas = context();
+  vantrel::zoomAt(canvas, {point.x, point.y}, factor);
+}
+
+void CanvasPanel::zoomCentred(double factor) {
+  CanvasContext canvas = context();
+  vantrel::zoomCentred(canvas, factor);
+}
+
+void CanvasPanel::zoomToFit(bool trackOnly) {
+  CanvasContext canvas = context();
+  vantrel::zoomToFit(canvas, trackOnly);
+}
+
+void CanvasPanel::resetView() {
+  CanvasContext canvas = context();
+  vantrel::resetView(canvas);
+}
+
+void CanvasPanel::resetViewUnitScale() {
+  CanvasContext canvas = context();
+  vantrel::resetViewUnitScale(canvas);
+}
+
+void CanvasPanel::showGrid(bool visible) {
+  CanvasContext canvas = context();
+  vantrel::showGrid(canvas, visible);
+}
+
+void CanvasPanel::cancelPaletteDrag() {
+  CanvasContext canvas = context();
+  vantrel::cancelPaletteDrag(canvas);
+}
+
+void CanvasPanel::setToolCursor(bool cross) {
+  setCursor(cross ? CanvasCursor::cross : CanvasCursor::normal);
+}
+
+void CanvasPanel::beginPieceDrag(std::string_view part) {
+  CanvasContext canvas = context();
+  vantrel::beginPieceDrag(canvas, part);
+}
+
+void CanvasPanel::beginSceneryDrag(std::string_view item) {
+  CanvasContext canvas = context();
+  vantrel::beginSceneryDrag(canvas, item);
+}
+
+// Only the palette's double click places a helix so far.
+void CanvasPanel::beginHelixDrag(std::string_view) {}
+
+void CanvasPanel::placeByDoubleClick(std::string_view part) {
+  CanvasContext canvas = context();
+  vantrel::placeByDoubleClick(canvas, part);
+}
+
+DeviceSize CanvasPanel::clientSize() const {
+  const wxSize size = GetClientSize();
+  return {size.GetWidth(), size.GetHeight()};
+}
+
+bool CanvasPanel::hasCapture() const {
+  return HasCapture();
+}
+
+void CanvasPanel::captureMouse() {
+  if (!HasCapture()) CaptureMouse();
+}
+
+void CanvasPanel::releaseMouse() {
+  if (HasCapture()) ReleaseMouse();
+}
+
+void CanvasPanel::takeFocus() {
+  SetFocusIgnoringChildren();
+}
+
+void CanvasPanel::setCursor(CanvasCursor cursor) {
+  SetCursor(CursorFor(cursor));
+}
+
+void CanvasPanel::repaint() {
+  Refresh();
+}
+
+void CanvasPanel::setStatus(StatusField field, const std::string& text) {
+  workspace_.setStatus(field, text);
+}
+
+std::string CanvasPanel::status(StatusField field) const {
+  return workspace_.status(field);
+}
+
+void CanvasPanel::inform(const std::string& title, const std::string& text, BoxIcon icon) {
+  wxMessageBox(wxString::FromUTF8(text), wxString::FromUTF8(title), wxOK | IconStyle(icon),
+               wxGetTopLevelParent(this));
+}
+
+bool CanvasPanel::ask(const std::string& title, const std::string& text, bool defaultYes) {
+  const long style = wxYES_NO | wxICON_QUESTION | (defaultYes ? wxYES_DEFAULT : wxNO_DEFAULT);
+  return wxMessageBox(wxString::FromUTF8(text), wxString::FromUTF8(title), style,
+                      wxGetTopLevelParent(this)) == wxYES;
+}
+
+void CanvasPanel::selectionChanged() {
+  workspace_.selectionChanged();
+}
+
+void CanvasPanel::markDirty() {
+  workspace_.markDirty();
+}
+
+void CanvasPanel::noteCanvasClick(Vec2 world) {
+  workspace_.noteCanvasClick(world);
+}
+
+}  // namespace vantrel

@@ -1,0 +1,81 @@
+// The central editing surface: a window that hands its events to the ordered lists of
+// event_order.h, and offers the gestures what they need of a window.
+#pragma once
+
+#include <wx/panel.h>
+
+#include <string>
+#include <string_view>
+
+#include "canvas/gestures/canvas_context.h"
+#include "canvas/gestures/pointer_event.h"
+#include "workspace/workspace.h"
+
+namespace vantrel {
+
+class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
+ public:
+  // `workspace` must live as long as the panel: it holds the document.
+  CanvasPanel(wxWindow* parent, Workspace& workspace);
+  ~CanvasPanel() override;
+  CanvasPanel(const CanvasPanel&) = delete;
+  CanvasPanel& operator=(const CanvasPanel&) = delete;
+
+  // Zoom about a point in client pixels, or about the middle of the client area; the scale stays
+  // within 0.3 and 20 pixels per mm.
+  void zoomAt(wxPoint point, double factor);
+  void zoomCentred(double factor);
+  // Shows everything, or with `trackOnly` everything but decks and baseboard.
+  void zoomToFit(bool trackOnly);
+  void resetView();
+  void resetViewUnitScale();
+  void showGrid(bool visible);
+
+  // Ends whatever hangs at the pointer, without a trace in the document.
+  void cancelPaletteDrag();
+  // The cross of the tools that click points, or the normal arrow.
+  void setToolCursor(bool cross);
+
+  void beginPieceDrag(std::string_view part) override;
+  void beginSceneryDrag(std::string_view item) override;
+  void beginHelixDrag(std::string_view kitId) override;
+  void placeByDoubleClick(std::string_view part) override;
+
+  const CanvasState& state() const { return state_; }
+  const ViewTransform& view() const { return state_.view; }
+
+ private:
+  using PointerList = bool (*)(CanvasContext&, const PointerEvent&);
+
+  void bindPointer(const wxEventTypeTag<wxMouseEvent>& type, PointerList list);
+  void bindEvents();
+  void onPaint(wxPaintEvent& event);
+  void onWheelEvent(wxMouseEvent& event);
+  void onKeyDown(wxKeyEvent& event);
+  void onKeyUp(wxKeyEvent& event);
+  void onChar(wxKeyEvent& event);
+  PointerEvent pointerEvent(const wxMouseEvent& event) const;
+  CanvasContext context();
+
+  DeviceSize clientSize() const override;
+  bool hasCapture() const override;
+  void captureMouse() override;
+  void releaseMouse() override;
+  void takeFocus() override;
+  void setCursor(CanvasCursor cursor) override;
+  void repaint() override;
+  void setStatus(StatusField field, const std::string& text) override;
+  std::string status(StatusField field) const override;
+  void inform(const std::string& title, const std::string& text, BoxIcon icon) override;
+  bool ask(const std::string& title, const std::string& text, bool defaultYes) override;
+  void selectionChanged() override;
+  void markDirty() override;
+  void noteCanvasClick(Vec2 world) override;
+
+  Workspace& workspace_;
+  CanvasState state_;
+  // Space as told by key events: the state of a key can't be asked for on every display.
+  bool spaceHeld_ = false;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,143 @@
+#include "canvas/event_order.h"
+
+#include <span>
+
+#include "canvas/gestures/click_tools.h"
+#include "canvas/gestures/helix_placement.h"
+#include "canvas/gestures/palette_drag.h"
+#include "canvas/gestures/panning.h"
+#include "canvas/gestures/scenery_drag.h"
+#include "canvas/gestures/status_line.h"
+#include "canvas/gestures/wheel_zoom.h"
+#include "render2d/contents_drawing.h"
+#include "render2d/rulers.h"
+
+namespace vantrel {
+namespace {
+
+bool takeFocus(CanvasContext& context, const PointerEvent&) {
+  context.host.takeFocus();
+  return false;
+}
+
+void drawContents(const CanvasContext& context, wxDC& dc) {
+  DrawLayoutContents(context.state.render, dc, context.layout, context.state.view,
+                     context.host.clientSize());
+}
+
+void drawRulerBands(const CanvasContext& context, wxDC& dc) {
+  drawRulers(dc, context.state.view, context.layout.units, context.host.clientSize());
+}
+
+using PointerStep = bool (*)(CanvasContext&, const PointerEvent&);
+using KeyStep = bool (*)(CanvasContext&, const KeyEvent&);
+using PaintStep = void (*)(const CanvasContext&, wxDC&);
+
+// In each list the first step that takes the event ends it.
+
+constexpr PointerStep kLeftPress[] = {
+    takeFocus,
+    clickToolPress,
+    dropDraggedPiece,
+    dropDraggedScenery,
+};
+
+constexpr PointerStep kMotion[] = {
+    showPointerPosition,  // takes nothing
+    clickToolMotion,      //
+    buttonPanMotion,
+    spacePanMotion,
+    // Without a button: what hangs at the pointer follows it.
+    paletteDragMotion,
+    sceneryDragMotion,
+};
+
+constexpr PointerStep kLeftRelease[] = {endPans};
+
+constexpr PointerStep kMiddlePress[] = {beginButtonPan};
+constexpr PointerStep kMiddleRelease[] = {endButtonPan};
+
+constexpr PointerStep kRightPress[] = {paletteDragRightPress, sceneryDragRightPress};
+
+// Turning comes before zooming, so the view stays while something hangs at the pointer.
+constexpr PointerStep kWheel[] = {paletteDragWheel, sceneryDragWheel, wheelZoom};
+
+constexpr KeyStep kKeys[] = {paletteDragKey, sceneryDragKey};
+constexpr KeyStep kCharacters[] = {zoomByCharacter};
+
+constexpr PaintStep kPaint[] = {
+    drawContents,    drawRulerBands,  showGradeRuns,
+    drawPaletteDrag, drawSceneryDrag, drawHelixPlacement,
+};
+
+template <typename Step, typename Event>
+bool Offer(std::span<const Step> steps, CanvasContext& context, const Event& event) {
+  for (const Step step : steps)
+    if (step(context, event)) return true;
+  return false;
+}
+
+bool Offer(std::span<const PointerStep> steps, CanvasContext& context, const PointerEvent& event) {
+  return Offer<PointerStep, PointerEvent>(steps, context, event);
+}
+
+// Whatever a release ended, it gives the mouse back.
+bool OfferRelease(std::span<const PointerStep> steps, CanvasContext& context,
+                  const PointerEvent& event) {
+  const bool taken = Offer(steps, context, event);
+  context.host.releaseMouse();
+  return taken;
+}
+
+}  // namespace
+
+bool onLeftPress(CanvasContext& context, const PointerEvent& event) {
+  return Offer(kLeftPress, context, event);
+}
+
+bool onMotion(CanvasContext& context, const PointerEvent& event) {
+  return Offer(kMotion, context, event);
+}
+
+bool onLeftRelease(CanvasContext& context, const PointerEvent& event) {
+  return OfferRelease(kLeftRelease, context, event);
+}
+
+bool onMiddlePress(CanvasContext& context, const PointerEvent& event) {
+  return Offer(kMiddlePress, context, event);
+}
+
+bool onMiddleRelease(CanvasContext& context, const PointerEvent& event) {
+  return OfferRelease(kMiddleRelease, context, event);
+}
+
+bool onRightPress(CanvasContext& context, const PointerEvent& event) {
+  return Offer(kRightPress, context, event);
+}
+
+bool onRightRelease(CanvasContext& context, const PointerEvent& event) {
+  return OfferRelease({}, context, event);
+}
+
+bool onWheel(CanvasContext& context, const PointerEvent& event) {
+  return Offer(kWheel, context, event);
+}
+
+bool onKey(CanvasContext& context, const KeyEvent& event) {
+  return Offer<KeyStep, KeyEvent>(kKeys, context, event);
+}
+
+bool onCharacter(CanvasContext& context, const KeyEvent& event) {
+  return Offer<KeyStep, KeyEvent>(kCharacters, context, event);
+}
+
+// What hangs at the pointer goes on following it without the capture; nothing is lost.
+void onCaptureLost(CanvasContext& context) {
+  abandonButtonPan(context);
+}
+
+void paintCanvas(const CanvasContext& context, wxDC& dc) {
+  for (const PaintStep step : kPaint) step(context, dc);
+}
+
+}  // namespace vantrel

@@ -1,0 +1,31 @@
+// The editor's state machine: the order in which an event is offered to the gestures. The lists
+// themselves are the page event_order.cpp.
+#pragma once
+
+#include "canvas/gestures/canvas_context.h"
+#include "canvas/gestures/pointer_event.h"
+
+class wxDC;
+
+namespace vantrel {
+
+// Each offers the event to its list; true when a gesture took it.
+bool onLeftPress(CanvasContext& context, const PointerEvent& event);
+bool onMotion(CanvasContext& context, const PointerEvent& event);
+bool onLeftRelease(CanvasContext& context, const PointerEvent& event);
+bool onMiddlePress(CanvasContext& context, const PointerEvent& event);
+bool onMiddleRelease(CanvasContext& context, const PointerEvent& event);
+bool onRightPress(CanvasContext& context, const PointerEvent& event);
+bool onRightRelease(CanvasContext& context, const PointerEvent& event);
+bool onWheel(CanvasContext& context, const PointerEvent& event);
+bool onKey(CanvasContext& context, const KeyEvent& event);
+// A typed character; the event's code is the character.
+bool onCharacter(CanvasContext& context, const KeyEvent& event);
+
+// The mouse was taken away by another window or a dialog.
+void onCaptureLost(CanvasContext& context);
+
+// One whole frame of the canvas, bottom to top.
+void paintCanvas(const CanvasContext& context, wxDC& dc);
+
+}  // namespace vantrel
