@@ -7,17 +7,16 @@
 namespace vantrel {
 namespace {
 
-// Up to here the plain loop takes microseconds and its rounding is the contract; beyond it one
-// remainder step, which is exact, comes first.
-constexpr double kStepwiseLimit = 360000.0;
-// From here on neighbouring doubles lie more than a full turn apart: no angle is meant.
-constexpr double kMeaninglessAngle = 1e18;
+// From here on neighbouring doubles lie 16 degrees and more apart: no angle is meant.
+constexpr double kMeaninglessAngle = 72057594037927936.0;  // 2 to the power of 56
 
 }  // namespace
 
 double normalizeDegrees(double degrees) {
   if (!(std::abs(degrees) < kMeaninglessAngle)) return 0.0;
-  if (std::abs(degrees) > kStepwiseLimit) degrees = std::fmod(degrees, 360.0);
+  // Below that limit every step of 360 that stays on its side of zero is exact, so the remainder
+  // skips all of them but the last without changing the result.
+  if (std::abs(degrees) > 720.0) degrees = std::fmod(degrees, 360.0) + 0.0;  // never -0
   while (degrees < 0.0) degrees += 360.0;
   while (degrees >= 360.0) degrees -= 360.0;
   return degrees;

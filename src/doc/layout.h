@@ -32,7 +32,7 @@ struct Joint {
 // catalog doesn't know is allowed everywhere.
 struct Piece {
   std::int32_t id = kNone;
-  std::string cat;
+  std::string cat{};
   double x = 0.0;        // mm, of the definition's origin
   double y = 0.0;        // mm
   double heading = 0.0;  // degrees
@@ -49,7 +49,7 @@ struct Piece {
   bool free = false;           // comes with another piece: neither counted nor bought
   // Indexed by the piece's own connector number. May be shorter than the piece's number of
   // connectors: a missing slot is an open connector.
-  std::vector<Joint> joints;
+  std::vector<Joint> joints{};
 
   Pose pose() const { return {x, y, heading}; }
   friend bool operator==(const Piece&, const Piece&) = default;
@@ -57,8 +57,8 @@ struct Piece {
 
 struct SceneryItem {
   std::int32_t id = kNone;
-  std::string item;  // key in the scenery catalog
-  double x = 0.0;    // mm, the middle of the footprint
+  std::string item{};  // key in the scenery catalog
+  double x = 0.0;      // mm, the middle of the footprint
   double y = 0.0;
   double heading = 0.0;  // degrees
   bool sel = false;
@@ -72,8 +72,8 @@ struct SceneryItem {
 
 struct Label {
   std::int32_t id = kNone;
-  std::string text;  // UTF-8
-  double x = 0.0;    // mm, top left
+  std::string text{};  // UTF-8
+  double x = 0.0;      // mm, top left
   double y = 0.0;
   bool sel = false;
 
@@ -97,7 +97,7 @@ struct Measurement {
 // A free polygon. With a height above 0 it is a solid in the 3D view.
 struct Shape {
   std::int32_t id = kNone;
-  std::vector<Vec2> vertices;
+  std::vector<Vec2> vertices{};
   std::uint8_t r = 120;
   std::uint8_t g = 170;
   std::uint8_t b = 110;
@@ -105,7 +105,7 @@ struct Shape {
   bool outline = true;
   std::int32_t level = 1;
   double height = 0.0;  // mm
-  std::string label;    // UTF-8, the user's name for it
+  std::string label{};  // UTF-8, the user's name for it
   bool sel = false;
 
   friend bool operator==(const Shape&, const Shape&) = default;
@@ -121,7 +121,7 @@ struct Level {
   std::uint8_t r = 180;
   std::uint8_t g = 180;
   std::uint8_t b = 180;
-  std::vector<Vec2> outline;  // used only with at least three points
+  std::vector<Vec2> outline{};  // used only with at least three points
 
   friend bool operator==(const Level&, const Level&) = default;
 };
@@ -141,7 +141,7 @@ struct Tunnel {
   std::int32_t portalB = kNone;
   std::int32_t anchorA = kNone;  // ids of the pieces that the portals stand on
   std::int32_t anchorB = kNone;
-  std::vector<std::int32_t> covers;  // ids of the pieces inside
+  std::vector<std::int32_t> covers{};  // ids of the pieces inside
 
   friend bool operator==(const Tunnel&, const Tunnel&) = default;
 };

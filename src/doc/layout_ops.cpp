@@ -12,6 +12,14 @@ void CollectIds(const std::vector<Record>& records, std::unordered_set<std::int3
   for (const Record& record : records) ids.insert(record.id);
 }
 
+// An id that only a dangling reference still names isn't free either: a new record would inherit
+// it.
+void CollectReferences(const Layout& layout, std::unordered_set<std::int32_t>& ids) {
+  for (const Piece& piece : layout.pieces)
+    for (const Joint& joint : piece.joints) ids.insert(joint.target);
+  for (const GradeRun& run : layout.gradeRuns) ids.insert(run.anchor);
+}
+
 std::int32_t LowestFreeId(const Layout& layout) {
   std::unordered_set<std::int32_t> used;
   CollectIds(layout.pieces, used);
@@ -21,6 +29,7 @@ std::int32_t LowestFreeId(const Layout& layout) {
   CollectIds(layout.shapes, used);
   CollectIds(layout.tunnels, used);
   CollectIds(layout.helices, used);
+  CollectReferences(layout, used);
   std::int32_t id = 1;
   while (used.contains(id)) ++id;
   return id;
