@@ -1,0 +1,88 @@
+#include "render2d/contents_text.h"
+
+#include <wx/dc.h>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "doc/view_transform.h"
+#include "render2d/contents_paint.h"
+#include "render2d/text_extent.h"
+
+namespace vantrel {
+namespace {
+
+constexpr double kPlateCorner = 3.0;  // device units
+
+const MeasuredText& Measure(ContentsPaint& paint, std::string_view text) {
+  return MeasureText(*paint.context.textExtents, paint.dc, text);
+}
+
+wxPoint TopLeft(const MeasuredText& measured, wxPoint centre) {
+  return {centre.x - measured.size.GetWidth() / 2, centre.y - measured.size.GetHeight() / 2};
+}
+
+}  // namespace
+
+wxString DisplayText(std::string_view text) {
+  wxString decoded = wxString::FromUTF8(text.data(), text.size());
+  if (decoded.empty() && !text.empty())
+    decoded = wxString(text.data(), wxConvISO8859_1, text.size());
+  return decoded;
+}
+
+wxFont PlanFont(int pointSize, int weight) {
+  return wxFont(
+      wxFontInfo(pointSize).Family(wxFONTFAMILY_DEFAULT).Style(wxFONTSTYLE_NORMAL).Weight(weight));
+}
+
+int PlanFontSize(double wanted, int smallest, int largest) {
+  return std::clamp(DeviceInt(wanted), smallest, largest);
+}
+
+void DrawCentredText(ContentsPaint& paint, std::string_view text, wxPoint centre) {
+  const MeasuredText& measured = Measure(paint, text);
+  paint.dc.DrawText(measured.text, TopLeft(measured, centre));
+}
+
+void DrawTextOnPlate(ContentsPaint& paint, std::string_view text, wxPoint centre, int padX,
+                     int padY) {
+  const MeasuredText& measured = Measure(paint, text);
+  const wxPoint corner = TopLeft(measured, centre);
+  paint.dc.DrawRoundedRectangle(corner.x - padX, corner.y - padY,
+                                measured.size.GetWidth() + 2 * padX,
+                                measured.size.GetHeight() + 2 * padY, kPlateCorner);
+  paint.dc.DrawText(measured.text, corner);
+}
+
+TextBounds::TextBounds(wxDC& dc, wxFont font) : dc_(dc), font_(std::move(font)) {
+  // No plain character of any common face is wider than 1.5 times its W or its line's height.
+  wxCoord width = 0;
+  wxCoord height = 0;
+  dc.GetTextExtent("W", &width, &height, nullptr, nullptr, &font_);
+  perCharacter_ = 3 * std::max(width, height) / 2 + 1;
+}
+
+wxSize TextBounds::of(std::string_view text) const {
+  const bool plain =
+      std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
+  if (!plain) {
+    wxCoord width = 0;
+    wxCoord height = 0;
+    dc_.GetMultiLineTextExtent(DisplayText(text), &width, &height, nullptr, &font_);
+    // Stacked accents may leave the measured box.
+    return {width + perCharacter_, height + perCharacter_};
+  }
+  return {DeviceInt(static_cast<double>(text.size()) * perCharacter_), perCharacter_};
+}
+
+wxSize TextBounds::ofLength(double lengthMm) const {
+  // One digit before the point, up to two behind it, a space, two letters and a rounding up to the
+  // next power of ten; the other digits before the point by their number.
+  constexpr int kShortest = 8;
+  const int more = lengthMm > 1.0 ? static_cast<int>(std::log10(lengthMm)) : 0;
+  return {(kShortest + more) * perCharacter_, perCharacter_};
+}
+
+}  // namespace vantrel

@@ -1,0 +1,110 @@
+#include "render2d/contents_track.h"
+
+#include <wx/dc.h>
+#include <wx/font.h>
+
+#include <cmath>
+#include <string_view>
+#include <unordered_map>
+
+#include "catalog/track_catalog.h"
+#include "render2d/contents_reach.h"
+#include "render2d/contents_text.h"
+#include "render2d/text_extent.h"
+#include "render2d/track_drawing.h"
+
+namespace vantrel {
+namespace {
+
+constexpr std::string_view kSpokeExtension = "74871";
+
+// From which scale on pieces show their part numbers, and in which size.
+constexpr double kPartNumberScale = 0.2;
+constexpr double kPartNumberPointsPerScale = 9.0;
+constexpr int kSmallestPartNumberPoints = 6;
+
+PieceIds CoveredPieces(const Layout& layout) {
+  PieceIds covered;
+  for (const Tunnel& tunnel : layout.tunnels)
+    covered.insert(tunnel.covers.begin(), tunnel.covers.end());
+  return covered;
+}
+
+// Tells which pieces can't be seen, part number included.
+class TrackView {
+ public:
+  explicit TrackView(ContentsPaint& paint)
+      : paint_(paint),
+        partNumbers_(paint.layout.labelsVisible && paint.view.scale >= kPartNumberScale) {
+    // In the font that the pieces will take, so that a part number is measured once in a paint.
+    if (partNumbers_) UsePartNumberFont();
+  }
+
+  bool outOfView(const Piece& piece, const PieceDef& def) {
+    if (!std::isfinite(piece.heading)) return false;
+    return paint_.outOfView({piece.x, piece.y}, 0.0, reach(def));
+  }
+
+ private:
+  void UsePartNumberFont();
+
+  // Device units.
+  double reach(const PieceDef& def) {
+    const auto known = reaches_.find(&def);
+    if (known != reaches_.end()) return known->second;
+    double reach = std::abs(paint_.view.scale) * PieceReach(def) + kPieceReachExtra;
+    if (partNumbers_) {
+      const wxSize number =
+          MeasureText(*paint_.context.textExtents, paint_.dc, def.partNumber).size;
+      reach += std::hypot(number.GetWidth(), number.GetHeight()) / 2.0;
+    }
+    return reaches_.emplace(&def, reach).first->second;
+  }
+
+  ContentsPaint& paint_;
+  const bool partNumbers_;
+  std::unordered_map<const PieceDef*, double> reaches_;
+};
+
+void TrackView::UsePartNumberFont() {
+  wxFont font = paint_.dc.GetFont();
+  if (!font.IsOk()) font = *wxNORMAL_FONT;
+  font.SetPointSize(
+      PlanFontSize(paint_.view.scale * kPartNumberPointsPerScale, kSmallestPartNumberPoints));
+  font.SetWeight(wxFONTWEIGHT_BOLD);
+  paint_.dc.SetFont(font);
+}
+
+void DrawJob(ContentsPaint& paint, const TrackJob& job) {
+  DrawTrackPiece(paint.context, paint.dc, *job.piece, *job.def, paint.view, job.piece->sel,
+                 paint.layout.labelsVisible, job.inTunnel);
+}
+
+}  // namespace
+
+TrackPlan PrepareTrack(ContentsPaint& paint, const HelixPlan& helices) {
+  const PieceIds covered = CoveredPieces(paint.layout);
+  TrackView view(paint);
+  TrackPlan plan;
+  for (const Piece& piece : paint.layout.pieces) {
+    if (paint.levelHidden(piece.level)) continue;
+    const PieceDef* def = findPart(piece.cat);
+    if (def == nullptr || view.outOfView(piece, *def)) continue;
+    const TrackJob job{&piece, def, !covered.empty() && covered.contains(piece.id)};
+    (helices.isLow(piece) ? plan.low : plan.high).push_back(job);
+    if (piece.cat == kSpokeExtension) plan.spokeExtensions.push_back(job);
+  }
+  return plan;
+}
+
+void DrawTrack(ContentsPaint& paint, const std::vector<TrackJob>& jobs) {
+  for (const bool selected : {false, true})
+    for (const TrackJob& job : jobs)
+      if (job.piece->sel == selected) DrawJob(paint, job);
+}
+
+void DrawSpokeExtensions(ContentsPaint& paint, const TrackPlan& plan) {
+  for (const TrackJob& job : plan.spokeExtensions) DrawJob(paint, job);
+}
+
+}  // namespace vantrel
