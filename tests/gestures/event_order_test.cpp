@@ -1,0 +1,101 @@
+#include "canvas/event_order.h"
+
+#include <gtest/gtest.h>
+
+#include "canvas/gestures/palette_drag.h"
+#include "tests/gestures/canvas_driver.h"
+
+namespace vantrel {
+namespace {
+
+class EventOrder : public CanvasTest {};
+
+TEST_F(EventOrder, ALeftPressThatNothingTakesOnlyTakesTheFocus) {
+  lay("24188", {0.0, 0.0, 0.0});
+  const std::vector<Piece> before = layout.pieces;
+  EXPECT_FALSE(pressLeft(500, 500));
+  EXPECT_EQ(host.focusTaken, 1);
+  EXPECT_FALSE(host.captured);
+  EXPECT_FALSE(releaseLeft(500, 500));
+  EXPECT_EQ(layout.pieces, before);
+  EXPECT_EQ(host.repaints, 0);
+}
+
+TEST_F(EventOrder, AnyReleaseGivesTheMouseBack) {
+  for (const auto release : {onLeftRelease, onMiddleRelease, onRightRelease}) {
+    host.captured = true;
+    EXPECT_FALSE(release(context, at(10, 10)));
+    EXPECT_FALSE(host.captured);
+  }
+}
+
+TEST_F(EventOrder, AnArmedClickToolKeepsTheCrossAndStopsEveryMotionAndPress) {
+  beginPieceDrag(context, "24188");
+  const Vec2 before = state.paletteDrag.at;
+  for (const std::int32_t mode : {kMeasureTool, kPolygonTool, kBaseboardTool}) {
+    layout.toolMode = mode;
+    host.cursors.clear();
+    EXPECT_TRUE(move(500, 500));
+    EXPECT_EQ(host.cursor(), CanvasCursor::cross);
+    EXPECT_NE(host.status(kStatusPosition), "");
+    EXPECT_TRUE(clickLeft(500, 500));
+    EXPECT_EQ(state.paletteDrag.at, before);
+    EXPECT_TRUE(layout.pieces.empty());
+  }
+  layout.toolMode = kNoTool;
+  EXPECT_TRUE(clickLeft(500, 500));
+  EXPECT_EQ(layout.pieces.size(), 1u);
+}
+
+TEST_F(EventOrder, KeysThatNothingTakesAreLeftToTheRest) {
+  EXPECT_FALSE(key(WXK_ESCAPE));
+  EXPECT_FALSE(key('R'));
+  EXPECT_FALSE(type('a'));
+  EXPECT_FALSE(pressRight(10, 10));
+}
+
+TEST_F(EventOrder, ThePaintGoesFromContentsOverRulersToWhatHangsAtThePointer) {
+  layout.gridVisible = false;
+  state.view = {.scale = 1.0, .offsetX = 0.0, .offsetY = 0.0};
+  beginPieceDrag(context, "24188");
+  move(2, 2);  // under the rulers' bands
+  const std::unique_ptr<RecordingDC> dc = paint();
+  const std::vector<DrawCall>& calls = dc->calls();
+  std::size_t lastBand = 0;
+  std::size_t firstGhost = calls.size();
+  for (std::size_t i = 0; i < calls.size(); ++i) {
+    if (calls[i].brush == SolidBrush({240, 240, 240})) lastBand = i;
+    // The ghost's green bed.
+    if (calls[i].brush == SolidBrush({200, 225, 200}) && firstGhost == calls.size()) firstGhost = i;
+  }
+  EXPECT_GT(lastBand, 0u);
+  ASSERT_LT(firstGhost, calls.size());
+  EXPECT_GT(firstGhost, lastBand);
+}
+
+TEST_F(EventOrder, TheHelixPreviewIsTwoRingsAndACrossAtItsMiddle) {
+  const std::unique_ptr<RecordingDC> quiet = paint();
+  EXPECT_EQ(quiet->circles().size(), 0u);
+  state.view = {.scale = 0.5, .offsetX = 60.0, .offsetY = 60.0};
+  state.helixPlacement = {.active = true, .kit = "proses_2_5_r1r2", .at = {1000.0, 400.0}};
+  const std::unique_ptr<RecordingDC> dc = paint();
+  const std::vector<DrawCall> rings = dc->circles();
+  ASSERT_EQ(rings.size(), 2u);
+  // (1000, 400) shows at (560, 260); 360 and 437.5 mm are 180 and 218.75 pixels.
+  const RecordedPen dashed{.colour = {0, 150, 200}, .width = 2, .style = wxPENSTYLE_LONG_DASH};
+  for (const DrawCall& ring : rings) {
+    EXPECT_EQ(ring.centre(), wxPoint(560, 260));
+    EXPECT_EQ(ring.pen, dashed);
+    EXPECT_EQ(ring.brush.style, wxBRUSHSTYLE_TRANSPARENT);
+  }
+  EXPECT_EQ(rings[0].circleRadius(), 180);
+  EXPECT_EQ(rings[1].circleRadius(), 218);
+  std::vector<std::vector<wxPoint>> cross;
+  for (const DrawCall& line : dc->callsOf(DrawOp::line))
+    if (line.pen == dashed) cross.push_back(line.points);
+  EXPECT_EQ(cross, (std::vector<std::vector<wxPoint>>{{{552, 260}, {568, 260}},
+                                                      {{560, 252}, {560, 268}}}));
+}
+
+}  // namespace
+}  // namespace vantrel

@@ -1,0 +1,54 @@
+// A canvas host without a window: remembers what the gestures asked of it.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "canvas/gestures/canvas_host.h"
+
+namespace vantrel {
+
+struct RecordedBox {
+  std::string title;
+  std::string text;
+  BoxIcon icon = BoxIcon::information;
+};
+
+class RecordingHost : public CanvasHost {
+ public:
+  DeviceSize client{1160, 800};
+  bool captured = false;
+  int captures = 0;
+  int releases = 0;
+  int focusTaken = 0;
+  int repaints = 0;
+  int selectionChanges = 0;
+  int dirtyMarks = 0;
+  std::vector<CanvasCursor> cursors;  // all that were set, in order
+  std::vector<RecordedBox> boxes;
+  bool answer = false;  // what `ask` returns
+  std::vector<Vec2> canvasClicks;
+
+  CanvasCursor cursor() const { return cursors.empty() ? CanvasCursor::normal : cursors.back(); }
+
+  DeviceSize clientSize() const override;
+  bool hasCapture() const override;
+  void captureMouse() override;
+  void releaseMouse() override;
+  void takeFocus() override;
+  void setCursor(CanvasCursor cursor) override;
+  void repaint() override;
+  void setStatus(StatusField field, const std::string& text) override;
+  std::string status(StatusField field) const override;
+  void inform(const std::string& title, const std::string& text, BoxIcon icon) override;
+  bool ask(const std::string& title, const std::string& text, bool defaultYes) override;
+  void selectionChanged() override;
+  void markDirty() override;
+  void noteCanvasClick(Vec2 world) override;
+
+ private:
+  std::array<std::string, 3> status_;
+};
+
+}  // namespace vantrel
