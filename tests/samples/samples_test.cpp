@@ -109,13 +109,13 @@ TEST_P(Samples, HaveUniqueIdsAndNothingSelected) {
   EXPECT_EQ(std::adjacent_find(ids.begin(), ids.end()), ids.end());
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Samples, testing::ValuesIn(SampleFiles()),
-                         [](const testing::TestParamInfo<fs::path>& info) {
-                           std::string name = info.param.stem().string();
-                           std::erase_if(name,
-                                         [](unsigned char c) { return std::isalnum(c) == 0; });
-                           return name;
-                         });
+std::string TestNameOf(const testing::TestParamInfo<fs::path>& sample) {
+  std::string name = sample.param.stem().string();
+  std::erase_if(name, [](unsigned char c) { return std::isalnum(c) == 0; });
+  return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Samples, testing::ValuesIn(SampleFiles()), TestNameOf);
 
 TEST(SampleFolder, HoldsTheSixPlans) {
   EXPECT_EQ(SampleFiles().size(), 6u);

@@ -93,16 +93,16 @@ Layout KTerminus() {
   finish(down2, 5);
   finish(down3, 4);
 
-  plan.scenery("platform", {2000.0, 850.0, 0.0});
   plan.scenery("goods_shed", {1950.0, 1010.0, 0.0});
+  plan.scenery("platform", {1690.0, 1010.0, 0.0});
   plan.scenery("signal_box", {1180.0, 500.0, 0.0});
   plan.scenery("signal_color_stop", {860.0, 740.0, 0.0});
-  plan.scenery("station_small", {2550.0, 800.0, 90.0});
-  plan.scenery("water_tower", {1500.0, 1010.0, 0.0});
+  plan.scenery("station_small", {2620.0, 560.0, 270.0});
+  plan.scenery("water_tower", {1400.0, 990.0, 0.0});
   plan.label("Main line", {330.0, 720.0});
   plan.label("Branch", {330.0, 580.0});
   plan.label("Goods yard", {1880.0, 1070.0});
-  plan.baseboard({140.0, 380.0}, {2740.0, 1160.0});
+  plan.baseboard({240.0, 380.0}, {2760.0, 1160.0});
   return plan.take();
 }
 
@@ -149,8 +149,20 @@ Layout TrixViaduct() {
   SampleBuilder plan;
   constexpr double kClimbDegrees = 3.0;
   const Pose origin{700.0, 300.0, 0.0};
+
+  // The branch under the bridges runs down the page at height 0 from end to end. It is laid first,
+  // so that the bridges are drawn over it.
+  const double under = origin.x + 360.0 + 94.15;
+  const double bridges = origin.y + 2 * 437.5;
+  End branch = plan.start("62188", {under, bridges - 450.0, 90.0});
+  plan.lay(plan.other(branch, 0), "62977");
+  branch = plan.lay(branch, "62612");
+  plan.lay(plan.layMany(branch, "62188", 2), "62977");
+  End end = plan.lay(plan.other(branch, 2), "62224", 1, 0);
+  plan.lay(plan.lay(end, "62188"), "62977");
+
   const End first = plan.start("62360", origin);
-  End end = plan.lay(first, "62360");
+  end = plan.lay(first, "62360");
   end = plan.lay(end, "62188");
   plan.startGrade(end, kClimbDegrees);
   end = HalfCircle(plan, end, "62623");
@@ -163,21 +175,10 @@ Layout TrixViaduct() {
   plan.endGrade(end);
   plan.close(end, plan.other(first, 0));
 
-  // The branch under the bridges: it runs down the page, at height 0 from end to end.
-  const double under = origin.x + 360.0 + 94.15;
-  const double bridges = origin.y + 2 * 437.5;
-  End branch = plan.start("62188", {under, bridges - 450.0, 90.0});
-  plan.lay(plan.other(branch, 0), "62977");
-  branch = plan.layMany(branch, "62188", 3);
-  branch = plan.lay(branch, "62612");
-  plan.lay(plan.lay(branch, "62188"), "62977");
-  end = plan.lay(plan.other(branch, 2), "62224", 1, 0);
-  plan.lay(end, "62977");
-
-  plan.shape({{under - 330.0, bridges - 70.0},
-              {under - 190.0, bridges - 80.0},
-              {under - 180.0, bridges + 150.0},
-              {under - 350.0, bridges + 140.0}},
+  plan.shape({{origin.x + 40.0, bridges - 110.0},
+              {under - 150.0, bridges - 130.0},
+              {under - 160.0, bridges + 210.0},
+              {origin.x + 20.0, bridges + 220.0}},
              110, 160, 215, "River");
   plan.scenery("tree_group", {origin.x + 250.0, origin.y + 300.0, 0.0});
   plan.scenery("tree_conifer", {origin.x + 760.0, origin.y + 330.0, 0.0});
@@ -185,7 +186,7 @@ Layout TrixViaduct() {
   plan.scenery("viaduct_pier", {under + 120.0, bridges, 0.0});
   plan.label("3 degrees up", {origin.x + 1000.0, origin.y + 150.0});
   plan.label("3 degrees down", {origin.x - 420.0, origin.y + 700.0});
-  plan.baseboard({160.0, 160.0}, {2160.0, 1560.0});
+  plan.baseboard({160.0, 160.0}, {2160.0, 1620.0});
   return plan.take();
 }
 
@@ -212,17 +213,16 @@ Layout TwoDecks() {
   upper.id = 2;
   upper.name = "Station";
   upper.height = 260.0;
-  upper.trackcolor = true;
   upper.r = 200;
   upper.g = 215;
   upper.b = 190;
   upper.outline = {{80.0, 880.0}, {2700.0, 880.0}, {2700.0, 1560.0}, {80.0, 1560.0}};
   plan.layout().levels.push_back(upper);
-  end = plan.layMany({helix.topR1, 1}, "24360", 4);
+  end = plan.layMany({helix.topR1, 1}, "24360", 3);
   plan.lay(end, "24977");
   end = plan.lay({helix.topR2, 1}, "24612");
   const End yard = plan.lay(plan.other(end, 2), "24224", 1, 0);
-  plan.lay(plan.layMany(yard, "24360", 3), "24978");
+  plan.lay(plan.layMany(yard, "24360", 2), "24978");
   end = plan.layMany(plan.lay(end, "24172"), "24360", 3);
   plan.lay(end, "74861", 15, 0);
 

@@ -139,6 +139,9 @@ Layout SampleBuilder::take() {
   layout_.undoHistory.clear();
   layout_.redoHistory.clear();
   EnsureDefaultLevel(layout_);
+  // A level's red comes back from a file as its track colour flag; written like that at once, a
+  // sample that is opened and saved stays the same.
+  for (Level& level : layout_.levels) level.r = level.trackcolor ? 1 : 0;
   return std::move(layout_);
 }
 
