@@ -80,8 +80,8 @@ int RecordingDC::fontChanges() const {
 }
 
 std::ostream& operator<<(std::ostream& out, const Rgba& colour) {
-  out << '(' << colour.r << ", " << colour.g << ", " << colour.b;
-  if (colour.a != 255) out << ", alpha " << colour.a;
+  out << '(' << int{colour.r} << ", " << int{colour.g} << ", " << int{colour.b};
+  if (colour.a != 255) out << ", alpha " << int{colour.a};
   return out << ')';
 }
 

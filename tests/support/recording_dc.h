@@ -13,16 +13,9 @@
 #include <string>
 #include <vector>
 
+#include "catalog/scenery_def.h"  // Rgba
+
 namespace vantrel {
-
-struct Rgba {
-  int r = 0;
-  int g = 0;
-  int b = 0;
-  int a = 255;
-
-  friend bool operator==(const Rgba&, const Rgba&) = default;
-};
 
 struct RecordedPen {
   Rgba colour;
