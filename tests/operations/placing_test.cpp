@@ -98,11 +98,11 @@ TEST(PlacePiece, MakesTheFirstLevelWhenThereIsNone) {
 TEST(PlacePiece, TakesTheLevelOfThePieceThatItJoins) {
   Layout layout;
   layout.levels.resize(2);
+  layout.levels[0].height = 150.0;
   layout.levels[1].id = 2;
-  layout.levels[1].height = 150.0;
   const std::int32_t low = LayPiece(layout, "24188", {});
-  PieceOf(layout, low).level = 1;
-  EXPECT_EQ(PieceOf(layout, Drop(layout, "24188", {190.0, 0.0, 0.0})).level, 1);
+  PieceOf(layout, low).level = 2;
+  EXPECT_EQ(PieceOf(layout, Drop(layout, "24188", {190.0, 0.0, 0.0})).level, 2);
 }
 
 TEST(PlacePiece, TakesTheActiveLevelWhenItsTargetIsGone) {
@@ -160,11 +160,11 @@ TEST(Turntable, IsFollowedBySixSpokesAndOneUndoRemovesAllSeven) {
 TEST(Turntable, GivesItsHeightAndLevelToTheSpokes) {
   Layout layout;
   layout.levels.resize(2);
+  layout.levels[0].height = 150.0;
   layout.levels[1].id = 2;
-  layout.levels[1].height = 150.0;
   const std::int32_t approach = LayPiece(layout, "24188", {});
   PieceOf(layout, approach).z = 40.0;
-  PieceOf(layout, approach).level = 1;
+  PieceOf(layout, approach).level = 2;
   // Connector 3, at (139 cos 36, 139 sin 36) = (112.4534, 81.7021), meets the end at (188.3, 0).
   const PieceDef& def = *findPart("74861");
   const Pose pose = poseForConnector(def, 3, {193.3, 0.0, 0.0});
@@ -173,7 +173,7 @@ TEST(Turntable, GivesItsHeightAndLevelToTheSpokes) {
   ASSERT_EQ(layout.pieces.size(), 8u) << "a join elsewhere leaves all six spokes";
   for (std::size_t i = 2; i < 8; ++i) {
     EXPECT_EQ(layout.pieces[i].z, 40.0);
-    EXPECT_EQ(layout.pieces[i].level, 1);
+    EXPECT_EQ(layout.pieces[i].level, 2);
     EXPECT_EQ(layout.pieces[i].grade, 0.0);
   }
   EXPECT_EQ(BrokenJoint(layout), "");

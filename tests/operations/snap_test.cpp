@@ -156,6 +156,19 @@ TEST(Snap, IsHarmlessAmongPiecesThatLieNowhere) {
   EXPECT_FALSE(Refusal(layout, "24188", {std::nan(""), 0.0, 0.0}).found);
 }
 
+TEST(Snap, SeesTheEndsWhereRoundingPutsThemFarFromTheOrigin) {
+  // At 2e16 mm neighbouring doubles lie 4 mm apart. The end at 94.2 becomes 96 and the one at
+  // 216 - 94.2 = 121.8 becomes 120: 24 mm between ends that would be 27.6 mm apart near the origin.
+  constexpr double far = 2e16;
+  Layout layout;
+  LayPiece(layout, "24094", {far, 0.0, 0.0});
+  const SnapResult snap = Snap(layout, "24094", {far + 216.0, 0.0, 180.0});
+  ASSERT_TRUE(snap.found);
+  EXPECT_EQ(snap.distance, 24.0);
+  EXPECT_EQ(snap.targetConnector, 1);
+  EXPECT_EQ(snap.ownConnector, 1);
+}
+
 TEST(Refusal, OfCTrackAtAKTrackEndWithNoOwnSystemInReach) {
   Layout layout;
   LayPiece(layout, "2200", {});
