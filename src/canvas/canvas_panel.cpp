@@ -82,6 +82,8 @@ void CanvasPanel::bindEvents() {
   bindPointer(wxEVT_LEFT_DOWN, onLeftPress);
   bindPointer(wxEVT_LEFT_UP, onLeftRelease);
   bindPointer(wxEVT_MOTION, onMotion);
+  // A pointer that jumps into the window raises no motion before the next one.
+  bindPointer(wxEVT_ENTER_WINDOW, onMotion);
   bindPointer(wxEVT_MIDDLE_DOWN, onMiddlePress);
   bindPointer(wxEVT_MIDDLE_UP, onMiddleRelease);
   bindPointer(wxEVT_RIGHT_DOWN, onRightPress);

@@ -44,7 +44,7 @@ constexpr PointerStep kLeftPress[] = {
 
 constexpr PointerStep kMotion[] = {
     showPointerPosition,  // takes nothing
-    clickToolMotion,      //
+    clickToolMotion,      // ends the list for every motion while a tool is armed
     buttonPanMotion,
     spacePanMotion,
     // Without a button: what hangs at the pointer follows it.

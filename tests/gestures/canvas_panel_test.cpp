@@ -153,6 +153,12 @@ TEST_F(CanvasWindow, ADragFromThePaletteEndsInAPieceAtTheNextPress) {
   settle();
 }
 
+TEST_F(CanvasWindow, WhatHangsAtThePointerFollowsAJumpIntoTheWindow) {
+  canvas->beginPieceDrag("24188");
+  mouse(wxEVT_ENTER_WINDOW, 160, 140);
+  EXPECT_EQ(canvas->state().paletteDrag.at, (Vec2{250.0, 200.0}));
+}
+
 TEST_F(CanvasWindow, QuickRightPressesTurnAStepEach) {
   canvas->beginPieceDrag("24188");
   mouse(wxEVT_RIGHT_DOWN, 100, 100);
