@@ -7,7 +7,6 @@
 #include <fstream>
 #include <functional>
 #include <map>
-#include <regex>
 #include <set>
 #include <string>
 #include <vector>
@@ -62,19 +61,31 @@ bool LooksLikeProjectFile(const std::string& name) {
          !name.starts_with("GL/") && !name.starts_with("sys/");
 }
 
+// The file that an include line names, or an empty text for any other line.
+std::string IncludedFile(const std::string& line) {
+  const std::size_t hash = line.find_first_not_of(" \t");
+  if (hash == std::string::npos || line[hash] != '#') return {};
+  const std::size_t word = line.find_first_not_of(" \t", hash + 1);
+  if (word == std::string::npos || line.compare(word, 7, "include") != 0) return {};
+  const std::size_t open = line.find_first_of("\"<", word);
+  if (open == std::string::npos) return {};
+  const std::size_t close = line.find_first_of("\">", open + 1);
+  return close == std::string::npos ? std::string() : line.substr(open + 1, close - open - 1);
+}
+
 std::vector<Include> ReadIncludes() {
   std::vector<Include> includes;
   const fs::path src = fs::path(VANTREL_SOURCE_DIR) / "src";
-  const std::regex pattern(R"re(^\s*#\s*include\s*["<]([^">]+)[">])re");
   for (const fs::directory_entry& entry : fs::recursive_directory_iterator(src)) {
     const std::string extension = entry.path().extension();
     if (extension != ".h" && extension != ".cpp") continue;
     std::ifstream file(entry.path());
     std::string line;
-    std::smatch match;
-    while (std::getline(file, line))
-      if (std::regex_search(line, match, pattern))
-        includes.push_back({fs::relative(entry.path(), src).generic_string(), match[1]});
+    while (std::getline(file, line)) {
+      const std::string included = IncludedFile(line);
+      if (!included.empty())
+        includes.push_back({fs::relative(entry.path(), src).generic_string(), included});
+    }
   }
   return includes;
 }
@@ -111,6 +122,13 @@ TEST(Floors, NoTwoFilesIncludeEachOther) {
     done.insert(file);
   };
   for (const auto& [file, targets] : graph) visit(file);
+}
+
+TEST(Floors, AnIncludeLineIsReadInEveryWayOfWritingIt) {
+  EXPECT_EQ(IncludedFile("#include \"doc/layout.h\""), "doc/layout.h");
+  EXPECT_EQ(IncludedFile("  #  include <wx/dc.h>  // why"), "wx/dc.h");
+  EXPECT_EQ(IncludedFile("// #include \"doc/layout.h\""), "");
+  EXPECT_EQ(IncludedFile("#define X \"doc/layout.h\""), "");
 }
 
 TEST(Floors, TheRuleTellsAnUpwardIncludeFromADownwardOne) {
