@@ -69,8 +69,7 @@ void DrawCurvedArch(const TrackPaint& paint) {
 void DrawContactMark(const TrackPaint& paint) {
   const wxPoint middle = ArcMiddle(paint);
   const int halfWidth = std::max(3, scaledLength(paint.view, 8.0));
-  const int wanted = scaledLength(paint.view, 4.0);
-  const int halfHeight = wanted < 3 ? 2 : wanted;
+  const int halfHeight = std::max(2, scaledLength(paint.view, 4.0));
   setSolidPen(paint.dc, ToColour(kMarkerPen), 1);
   setSolidBrush(paint.dc, ToColour(kMarkerBrush));
   paint.dc.DrawRectangle(middle.x - halfWidth, middle.y - halfHeight, 2 * halfWidth,
@@ -128,8 +127,7 @@ void drawTurntable(const TrackPaint& paint) {
     dc.DrawLine(DevicePointOf(paint.view, rim),
                 DevicePointOf(paint.view, paint.frame.toWorld({ends[i].x, ends[i].y})));
   }
-  const int wanted = scaledLength(paint.view, 3.0);
-  const int stubRadius = wanted < 3 ? 2 : wanted;
+  const int stubRadius = std::max(2, scaledLength(paint.view, 3.0));
   setSolidBrush(dc, ToColour(kTurntableStub));
   dc.SetPen(*wxTRANSPARENT_PEN);
   for (const Connector& end : ends)

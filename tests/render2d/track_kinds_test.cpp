@@ -238,6 +238,14 @@ TEST_F(DoubleSlip, WithTwoConnectorsHasOneSlipAndNoLens) {
   EXPECT_EQ(OpsOf(PlainCalls(half)), (std::vector<DrawOp>{polygon, polygon}));
 }
 
+TEST_F(DoubleSlip, WithThreeConnectorsHasBothSlipsButNoSecondStraightBed) {
+  PieceDef three = def;
+  three.connectors.resize(3);
+  std::vector<DrawCall> expected = calls;
+  expected.erase(expected.begin() + 1);
+  EXPECT_EQ(PlainCalls(three), expected);
+}
+
 TEST_F(DoubleSlip, WithATinyRadiusSurvivesTheShortOutlinesOfItsSlips) {
   PieceDef tiny = def;
   tiny.radius = 0.5;  // both slips fall back to straight beds of four points
@@ -285,6 +293,7 @@ TEST(Turntable, IsADeckWithAPitABridgeAndAStubAtEveryConnector) {
 
 TEST(Turntable, ASpokeLeadsFromTheRimToEveryJoinedConnector) {
   Piece piece = PieceOf(Row("74861"));
+  piece.joints[7] = {9, 0};
   piece.joints.resize(6);  // shorter than the list of connectors
   piece.joints[0] = {0, 0};
   piece.joints[3] = {-2, 0};

@@ -16,6 +16,7 @@ PieceDef Straight(double length) {
 
 DrawCall LabelOf(const PieceDef& def, const ViewTransform& view = kPlainView) {
   RecordingDC dc;
+  dc.SetBackgroundMode(wxBRUSHSTYLE_SOLID);
   DrawTrackPiece(RenderContext{}, dc, PieceOf(def), def, view, false, true, false);
   const std::vector<DrawCall> texts = dc.texts(def.partNumber);
   EXPECT_EQ(texts.size(), 1u) << def.partNumber;
