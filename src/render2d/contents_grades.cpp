@@ -48,8 +48,10 @@ Arrow ArrowOf(const Piece& piece, const PieceDef& def) {
 }
 
 std::string SlopeText(double degrees) {
-  const char* sign = std::signbit(degrees) ? "-" : "+";
-  return sign + FormatFixed(std::abs(degrees), 1) + " deg";
+  std::string text(1, std::signbit(degrees) ? '-' : '+');
+  text += FormatFixed(std::abs(degrees), 1);
+  text += " deg";
+  return text;
 }
 
 void DrawArrow(ContentsPaint& paint, const Arrow& arrow, const wxColour& colour) {

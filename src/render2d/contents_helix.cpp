@@ -30,6 +30,7 @@ void DrawHelixRing(ContentsPaint& paint, const Helix& helix, const HelixState& s
   piece.helix = helix.id;
   piece.level = state.level;
   piece.joints.resize(curve.connectors.size());
+  const PieceReach& reach = ReachOfPiece(curve);
   const Pose centre{helix.cx, helix.cy, helix.heading};
   for (int i = 1; i <= curves; ++i) {
     const double angle = kFirstCurveFrom - kDegreesPerCurve * i;
@@ -38,8 +39,7 @@ void DrawHelixRing(ContentsPaint& paint, const Helix& helix, const HelixState& s
     piece.x = at.x;
     piece.y = at.y;
     piece.heading = angle + 90.0 + helix.heading;
-    if (std::isfinite(piece.heading) && paint.outOfView(at, PieceReach(curve), kPieceReachExtra))
-      continue;
+    if (PieceOutOfView(paint, piece.pose(), reach, {})) continue;
     DrawTrackPiece(paint.context, paint.dc, piece, curve, paint.view, state.selected, false, false);
   }
 }

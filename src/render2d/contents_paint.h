@@ -39,6 +39,9 @@ struct DrawArea {
   bool missesCircle(double x, double y, double radius) const {
     return missesBox(x - radius, y - radius, x + radius, y + radius);
   }
+  bool containsCircle(double x, double y, double radius) const {
+    return x - radius >= left && x + radius <= right && y - radius >= top && y + radius <= bottom;
+  }
   // A box of `boxSize` around `centre`, with `pad` more on each side.
   bool missesCentredBox(wxPoint centre, wxSize boxSize, int pad) const {
     const double x = boxSize.GetWidth() / 2.0 + pad + 1.0;
@@ -68,11 +71,14 @@ struct ContentsPaint {
   // most plans have neither helices nor grades.
   const Piece* piece(std::int32_t id);
 
+  // The device point of a world point before it is truncated.
+  Vec2 onDevice(Vec2 world) const {
+    return {view.scale * world.x + view.offsetX, view.scale * world.y + view.offsetY};
+  }
   // True when nothing within `reach` mm and `extra` device units of a world point can be seen.
   bool outOfView(Vec2 world, double reach, double extra) const {
-    return area.missesCircle(view.scale * world.x + view.offsetX,
-                             view.scale * world.y + view.offsetY,
-                             std::abs(view.scale) * reach + extra);
+    const Vec2 at = onDevice(world);
+    return area.missesCircle(at.x, at.y, std::abs(view.scale) * reach + extra);
   }
 
  private:

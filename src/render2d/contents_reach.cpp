@@ -4,68 +4,124 @@
 #include <cmath>
 #include <unordered_map>
 
+#include "catalog/connector_geometry.h"
 #include "catalog/piece_builders.h"
 #include "render2d/track_drawing.h"
 
 namespace vantrel {
 namespace {
 
-// The marks of contact and uncoupler tracks and the bar of a track end, beyond the bed.
+// The marks of contact and uncoupler tracks, the bar of a track end and the dots, beyond the bed;
+// and what an arc swells between its samples.
 constexpr double kMarkReachMm = 18.0;
 // The arch of a curved bridge: half its width as a part of the radius, and a little for the pen.
 constexpr double kCurvedArchPart = 0.25;
 // Between the ends of a curved turnout that has too few connectors to tell.
 constexpr double kCurvedTurnoutShiftMm = 77.5;
+constexpr double kArcSampleDegrees = 5.0;
+// What has a smallest size on the device, such as a dot or the bar of a track end, and rounding.
+constexpr double kDeviceExtra = 7.0;
 
-double FromOrigin(const Connector& connector) {
-  return std::hypot(connector.x, connector.y);
-}
+// Gathers the box of a piece's centre lines.
+class CentreLines {
+ public:
+  void takeIn(Vec2 point) {
+    low_ = {std::min(low_.x, point.x), std::min(low_.y, point.y)};
+    high_ = {std::max(high_.x, point.x), std::max(high_.y, point.y)};
+  }
+  void takeInStraight(const Pose& from, double length) {
+    takeIn({from.x, from.y});
+    takeIn(LocalToWorld(from, {length, 0.0}));
+  }
+  // Without a radius an arc is drawn as a straight.
+  void takeInArc(const Pose& from, const PieceDef& def, double sweep) {
+    if (def.radius < 1.0) return takeInStraight(from, def.length);
+    const int samples = 1 + static_cast<int>(std::abs(sweep) / kArcSampleDegrees);
+    const double side = sweep < 0.0 ? -1.0 : 1.0;
+    for (int i = 0; i <= samples; ++i) {
+      const double t = Radians(std::abs(sweep) * i / samples);
+      takeIn(
+          LocalToWorld(from, {def.radius * std::sin(t), side * def.radius * (1.0 - std::cos(t))}));
+    }
+  }
+  void takeInSquare(double half) {
+    takeIn({-half, -half});
+    takeIn({half, half});
+  }
 
-double Between(const Connector& a, const Connector& b) {
-  return std::hypot(a.x - b.x, a.y - b.y);
-}
+  PieceReach reach(double clearance) const {
+    PieceReach reach{.middle = {(low_.x + high_.x) / 2.0, (low_.y + high_.y) / 2.0},
+                     .halfLength = (high_.x - low_.x) / 2.0,
+                     .halfWidth = (high_.y - low_.y) / 2.0,
+                     .clearance = clearance};
+    reach.fromOrigin = std::hypot(reach.middle.x, reach.middle.y) +
+                       std::hypot(reach.halfLength, reach.halfWidth) + clearance;
+    return reach;
+  }
 
-// From the start of the piece's arc to any point of its centre line: no chord is longer than its
-// arc, nor than the diameter. Without a radius an arc is drawn as a straight.
-double ArcReach(const PieceDef& def) {
-  if (def.radius < 1.0) return std::abs(def.length);
-  return std::min(Radians(std::abs(def.angle)), 2.0) * def.radius;
-}
+ private:
+  // The origin is part of every piece.
+  Vec2 low_;
+  Vec2 high_;
+};
 
-double CentreLineReach(const PieceDef& def) {
-  const double length = std::abs(def.length);
-  const double arc = ArcReach(def);
+// The second route of a crossing or a slip starts at connector 2.
+void TakeInCrossingRoute(CentreLines& lines, const PieceDef& def) {
   const auto& ends = def.connectors;
+  if (ends.size() < 3) return;
+  const Pose start{ends[2].x, ends[2].y, def.angle};
+  if (ends.size() >= 4)
+    lines.takeInStraight(start, std::hypot(ends[3].x - ends[2].x, ends[3].y - ends[2].y));
+  if (def.kind == PieceKind::DoubleSlip) lines.takeInArc(start, def, -def.angle);
+}
+
+void TakeInRoutes(CentreLines& lines, const PieceDef& def) {
+  const auto& ends = def.connectors;
+  if (def.kind == PieceKind::Curve) return lines.takeInArc({}, def, def.angle);
+  // Also where the part number stands on the other kinds.
+  lines.takeInStraight({}, def.length);
   switch (def.kind) {
-    case PieceKind::Curve:
-      return arc;
     case PieceKind::LeftTurnout:
     case PieceKind::RightTurnout:
-      return std::max(length, arc);
-    case PieceKind::CurvedTurnout:
-      return std::max(length, arc + (ends.size() < 3 ? kCurvedTurnoutShiftMm
-                                                     : std::abs(ends[2].x - ends[1].x)));
-    case PieceKind::OuterCurveTurnout:
-      return length + arc;
-    case PieceKind::Crossing:
-    case PieceKind::DoubleSlip: {
-      const double crossing = ends.size() < 4 ? 0.0 : Between(ends[2], ends[3]);
-      const double start = ends.size() < 3 ? 0.0 : FromOrigin(ends[2]);
-      return std::max(length, start + std::max(arc, crossing));
+      lines.takeInArc({}, def, def.angle);
+      lines.takeInArc({}, def, -def.angle);
+      return;
+    case PieceKind::CurvedTurnout: {
+      const double shift =
+          ends.size() < 3 ? kCurvedTurnoutShiftMm : std::abs(ends[2].x - ends[1].x);
+      lines.takeInArc({}, def, def.angle);
+      lines.takeInArc({shift, 0.0, 0.0}, def, def.angle);
+      return;
     }
+    case PieceKind::OuterCurveTurnout:
+      lines.takeInArc({}, def, def.angle);
+      lines.takeInArc({def.length, 0.0, 0.0}, def, def.angle);
+      return;
+    case PieceKind::DoubleSlip:
+      lines.takeInArc({}, def, def.angle);
+      TakeInCrossingRoute(lines, def);
+      return;
+    case PieceKind::Crossing:
+      TakeInCrossingRoute(lines, def);
+      return;
     case PieceKind::Turntable:
-      return std::max(length, std::abs(def.radius));
+      lines.takeInSquare(std::max(std::abs(def.length) / 2.0, std::abs(def.radius)));
+      return;
     default:
-      return length;
+      return;
   }
 }
 
-double ComputePieceReach(const PieceDef& def) {
-  double reach = CentreLineReach(def);
-  for (const Connector& end : def.connectors) reach = std::max(reach, FromOrigin(end));
-  reach += bedHalfWidth(def) + kMarkReachMm;
-  if (def.isBridge && def.kind == PieceKind::Curve) reach += kCurvedArchPart * std::abs(def.radius);
-  return reach;
+PieceReach ComputePieceReach(const PieceDef& def) {
+  CentreLines lines;
+  TakeInRoutes(lines, def);
+  for (const Connector& end : def.connectors) lines.takeIn({end.x, end.y});
+  double clearance = bedHalfWidth(def) + kMarkReachMm;
+  // Arches stay upright on the device whatever the piece's heading.
+  if (def.isBridge)
+    clearance += def.kind == PieceKind::Curve ? kCurvedArchPart * std::abs(def.radius)
+                                              : std::abs(def.length) / 2.0;
+  return lines.reach(clearance);
 }
 
 SceneryReach ComputeSceneryReach(const SceneryDef& def) {
@@ -102,9 +158,33 @@ const Value& Kept(std::unordered_map<const Key*, Value>& kept, const Key& key, C
 
 }  // namespace
 
-double PieceReach(const PieceDef& def) {
-  static std::unordered_map<const PieceDef*, double> kept;
+const PieceReach& ReachOfPiece(const PieceDef& def) {
+  static std::unordered_map<const PieceDef*, PieceReach> kept;
   return Kept(kept, def, ComputePieceReach);
+}
+
+bool PieceOutOfView(const ContentsPaint& paint, const Pose& pose, const PieceReach& reach,
+                    wxSize number) {
+  // Its points are no numbers, and such are drawn at 0.
+  if (!std::isfinite(pose.heading)) return false;
+  const double scale = std::abs(paint.view.scale);
+  const Vec2 origin = paint.onDevice({pose.x, pose.y});
+  const double around =
+      scale * reach.fromOrigin + kDeviceExtra + std::max(number.GetWidth(), number.GetHeight());
+  if (paint.area.missesCircle(origin.x, origin.y, around)) return true;
+  if (paint.area.containsCircle(origin.x, origin.y, around)) return false;
+  // Near the border the turned box decides.
+  const double r = Radians(pose.heading);
+  const double c = std::abs(std::cos(r));
+  const double s = std::abs(std::sin(r));
+  const double extra = scale * reach.clearance + kDeviceExtra;
+  const double halfX =
+      scale * (c * reach.halfLength + s * reach.halfWidth) + extra + number.GetWidth() / 2.0;
+  const double halfY =
+      scale * (s * reach.halfLength + c * reach.halfWidth) + extra + number.GetHeight() / 2.0;
+  const Vec2 middle = paint.onDevice(LocalToWorld(pose, reach.middle));
+  return paint.area.missesBox(middle.x - halfX, middle.y - halfY, middle.x + halfX,
+                              middle.y + halfY);
 }
 
 const SceneryReach& ReachOfScenery(const SceneryDef& def) {

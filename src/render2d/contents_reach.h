@@ -4,15 +4,28 @@
 
 #include "catalog/piece_def.h"
 #include "catalog/scenery_def.h"
+#include "doc/vec2.h"
+#include "render2d/contents_paint.h"
 
 namespace vantrel {
 
-// Of a track piece from its origin: its bed in every shape the kinds have, bridge arches, marks,
-// turntable and joint dots. `kPieceReachExtra` device units come on top, for what has a smallest
-// size on the device; the label is apart. Computed once per row and kept, so `def` must be a row of
-// the catalog. In mm.
-double PieceReach(const PieceDef& def);
-inline constexpr double kPieceReachExtra = 16.0;
+// Of a track piece, in its own frame: a box around all its centre lines, and how far bed, bridge
+// arch and marks reach beyond that on every side. In mm.
+struct PieceReach {
+  Vec2 middle;
+  double halfLength = 0.0;  // of the box, along local x
+  double halfWidth = 0.0;   // along local y
+  double clearance = 0.0;
+  double fromOrigin = 0.0;  // all of it, in any direction
+};
+
+// Computed once per row and kept, so `def` must be a row of the catalog.
+const PieceReach& ReachOfPiece(const PieceDef& def);
+
+// True when nothing of a piece at `pose` can be seen, be it drawn with a number of the size
+// `number` (device units) or with none.
+bool PieceOutOfView(const ContentsPaint& paint, const Pose& pose, const PieceReach& reach,
+                    wxSize number);
 
 // Of a scenery item, drawn at scale factors of 1, from the middle of its footprint.
 struct SceneryReach {

@@ -68,11 +68,13 @@ wxSize TextBounds::of(std::string_view text) const {
   const bool plain =
       std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
   if (!plain) {
+    // The toolkit's own measure of several lines would take the device's font instead of this one.
     wxCoord width = 0;
     wxCoord height = 0;
-    dc_.GetMultiLineTextExtent(DisplayText(text), &width, &height, nullptr, &font_);
+    dc_.GetTextExtent(DisplayText(text), &width, &height, nullptr, nullptr, &font_);
+    const double lines = 1.0 + static_cast<double>(std::count(text.begin(), text.end(), '\n'));
     // Stacked accents may leave the measured box.
-    return {width + perCharacter_, height + perCharacter_};
+    return {width + perCharacter_, DeviceInt(lines * height) + perCharacter_};
   }
   return {DeviceInt(static_cast<double>(text.size()) * perCharacter_), perCharacter_};
 }

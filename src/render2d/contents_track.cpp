@@ -3,7 +3,6 @@
 #include <wx/dc.h>
 #include <wx/font.h>
 
-#include <cmath>
 #include <string_view>
 #include <unordered_map>
 
@@ -41,29 +40,31 @@ class TrackView {
   }
 
   bool outOfView(const Piece& piece, const PieceDef& def) {
-    if (!std::isfinite(piece.heading)) return false;
-    return paint_.outOfView({piece.x, piece.y}, 0.0, reach(def));
+    const Extent& extent = extentOf(def);
+    return PieceOutOfView(paint_, piece.pose(), *extent.reach, extent.number);
   }
 
  private:
   void UsePartNumberFont();
 
-  // Device units.
-  double reach(const PieceDef& def) {
-    const auto known = reaches_.find(&def);
-    if (known != reaches_.end()) return known->second;
-    double reach = std::abs(paint_.view.scale) * PieceReach(def) + kPieceReachExtra;
-    if (partNumbers_) {
-      const wxSize number =
-          MeasureText(*paint_.context.textExtents, paint_.dc, def.partNumber).size;
-      reach += std::hypot(number.GetWidth(), number.GetHeight()) / 2.0;
+  struct Extent {
+    const PieceReach* reach = nullptr;
+    wxSize number;  // device units
+  };
+  const Extent& extentOf(const PieceDef& def) {
+    const auto [place, isNew] = extents_.try_emplace(&def);
+    if (isNew) {
+      place->second.reach = &ReachOfPiece(def);
+      if (partNumbers_)
+        place->second.number =
+            MeasureText(*paint_.context.textExtents, paint_.dc, def.partNumber).size;
     }
-    return reaches_.emplace(&def, reach).first->second;
+    return place->second;
   }
 
   ContentsPaint& paint_;
   const bool partNumbers_;
-  std::unordered_map<const PieceDef*, double> reaches_;
+  std::unordered_map<const PieceDef*, Extent> extents_;
 };
 
 void TrackView::UsePartNumberFont() {
