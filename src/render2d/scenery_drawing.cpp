@@ -10,7 +10,6 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
-#include <optional>
 #include <vector>
 
 #include "catalog/piece_builders.h"
@@ -134,14 +133,15 @@ class ItemPainter {
     }
     dc_.SetPen(*wxThePenList->FindOrCreatePen(
         ToColour(colour), 1, longest > kLongestDottedSide ? wxPENSTYLE_SOLID : wxPENSTYLE_DOT));
-    pen_.reset();
+    penKnown_ = false;
     dc_.DrawPolygon(static_cast<int>(corners.size()), corners.data());
   }
 
  private:
   void setBrush(Rgba fill) {
-    if (brush_ == fill) return;
+    if (brushKnown_ && brush_ == fill) return;
     brush_ = fill;
+    brushKnown_ = true;
     dc_.SetBrush(fill.a == 0 ? *wxTRANSPARENT_BRUSH
                              : *wxTheBrushList->FindOrCreateBrush(ToColour(fill)));
   }
@@ -155,8 +155,9 @@ class ItemPainter {
   }
 
   void setPen(const PenKey& key) {
-    if (pen_ == key) return;
+    if (penKnown_ && pen_ == key) return;
     pen_ = key;
+    penKnown_ = true;
     dc_.SetPen(key.visible ? *wxThePenList->FindOrCreatePen(ToColour(key.colour), key.width)
                            : *wxTRANSPARENT_PEN);
   }
@@ -220,8 +221,11 @@ class ItemPainter {
   const RenderContext& context_;
   wxDC& dc_;
   const ItemFrame& frame_;
-  std::optional<Rgba> brush_;
-  std::optional<PenKey> pen_;
+  // What the device was given last, so that runs of like primitives set it once.
+  Rgba brush_;
+  PenKey pen_;
+  bool brushKnown_ = false;
+  bool penKnown_ = false;
   std::vector<wxPoint> points_;
 };
 
