@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "doc/layout.h"
 
@@ -16,8 +17,8 @@ namespace vantrel {
 // range". By then the layout is partly replaced.
 class MalformedFile : public std::runtime_error {
  public:
-  MalformedFile(const std::string& problem, std::string path, std::size_t line)
-      : std::runtime_error(problem), path(std::move(path)), line(line) {}
+  MalformedFile(const std::string& problem, std::string filePath, std::size_t lineNumber)
+      : std::runtime_error(problem), path(std::move(filePath)), line(lineNumber) {}
 
   std::string path;  // UTF-8
   std::size_t line;  // from 1
@@ -28,8 +29,9 @@ class MalformedFile : public std::runtime_error {
 std::string SaveLayoutFile(const Layout& layout, const std::string& path, const std::string& name);
 
 // Reads a layout over the records of `layout`; `nameOut` gets the file's name attribute. Histories,
-// measurements, old grade runs and, without one in the file, the baseboard stay. Returns an empty
-// text, or "Cannot open file: " and the path with the layout unchanged. Throws MalformedFile.
+// measurements, old grade runs and, without one in the file, the baseboard stay. A file without a
+// "<layout " line leaves `nameOut` alone. Returns an empty text, or "Cannot open file: " and the
+// path, also for a folder, with the layout unchanged. Throws MalformedFile.
 std::string LoadLayoutFile(Layout& layout, const std::string& path, std::string& nameOut);
 
 }  // namespace vantrel
