@@ -1,0 +1,32 @@
+#include "app/services/pictures.h"
+
+#include <wx/imagjpeg.h>
+#include <wx/log.h>
+#include <wx/mstream.h>
+
+namespace vantrel {
+namespace {
+
+// The place for the maker's pictures: add rows, nothing else changes.
+constexpr std::span<const EmbeddedPicture> kPictures;
+
+}  // namespace
+
+wxImage LoadPicture(int id) {
+  return LoadPicture(id, kPictures);
+}
+
+wxImage LoadPicture(int id, std::span<const EmbeddedPicture> pictures) {
+  const wxLogNull quiet;  // a picture that doesn't decode is as good as none
+  wxImage image;
+  for (const EmbeddedPicture& picture : pictures) {
+    if (picture.id != id) continue;
+    if (!wxImage::FindHandler(wxBITMAP_TYPE_JPEG)) wxImage::AddHandler(new wxJPEGHandler);
+    wxMemoryInputStream stream(picture.jpeg.data(), picture.jpeg.size());
+    image.LoadFile(stream, wxBITMAP_TYPE_JPEG);
+    break;
+  }
+  return image;
+}
+
+}  // namespace vantrel

@@ -1,0 +1,27 @@
+// Where the program finds and puts its files. All paths are UTF-8, folders without a trailing
+// separator. Tests hand in a temporary set, so that nothing of the user's is touched.
+#pragma once
+
+#include <string>
+
+namespace vantrel {
+
+struct ProgramFolders {
+  std::string store;      // the layouts: one file per name
+  std::string prefsPath;  // the preference file
+  std::string data;       // the user's local data: logs, and work rescued from a full store
+  std::string downloads;  // where Import and Export begin...
+  std::string home;       // ...when this has no Downloads
+};
+
+// The folders of the running program: the store and the preferences lie beside the executable.
+ProgramFolders DefaultFolders();
+
+// `wanted`, created with all its parents when it is missing, or the temporary folder when it can't
+// be created.
+std::string LogFolder(const std::string& wanted);
+
+// Downloads while that exists, otherwise the home folder.
+std::string ExchangeFolder(const ProgramFolders& folders);
+
+}  // namespace vantrel

@@ -1,0 +1,75 @@
+#include <wx/panel.h>
+#include <wx/sizer.h>
+#include <wx/splitter.h>
+
+#include "app/services/frame_log.h"
+#include "canvas/canvas_panel.h"
+#include "frame/main_frame.h"
+#include "palette/palette_panel.h"
+#include "properties/properties_panel.h"
+
+namespace vantrel {
+namespace {
+
+// Pixels.
+constexpr int kPaletteMinWidth = 150;
+constexpr int kPaletteSash = 235;
+constexpr int kPropertiesSash = -280;  // from the right
+constexpr int kOuterMinPane = 150;
+constexpr int kInnerMinPane = 200;
+constexpr int kSmallestSplitter = 50;
+
+// How much of the new room the left pane takes when the window grows: the canvas gets all of it.
+constexpr double kLeftStays = 0.0;
+constexpr double kLeftGrows = 1.0;
+
+// The splitter has its size before it is split, and hears nothing of the sizes of next to nothing
+// that windows pass through while they come up: each of them would drag the sash along.
+wxSplitterWindow* MakeSplitter(wxWindow* parent, wxSize size, double gravity) {
+  auto* splitter = new wxSplitterWindow(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                                        wxSP_LIVE_UPDATE | wxSP_NOBORDER);
+  splitter->SetSize(size);
+  splitter->SetSashGravity(gravity);
+  splitter->Bind(wxEVT_SIZE, [](wxSizeEvent& event) {
+    if (event.GetSize().x >= kSmallestSplitter) event.Skip();
+  });
+  return splitter;
+}
+
+}  // namespace
+
+void MainFrame::buildPanels() {
+  FrameLog("BuildPanels: start");
+  root_ = new wxPanel(this);
+  FrameLog("BuildPanels: root panel created");
+  auto* sizer = new wxBoxSizer(wxHORIZONTAL);
+  wxSplitterWindow* outer = MakeSplitter(root_, GetClientSize(), kLeftStays);
+  palette_ = new PalettePanel(outer, *this);
+  palette_->SetMinSize(wxSize(kPaletteMinWidth, -1));
+  FrameLog("BuildPanels: palette created");
+  wxSplitterWindow* inner = MakeSplitter(
+      outer, outer->GetSize() - wxSize(kPaletteSash + outer->GetSashSize(), 0), kLeftGrows);
+  FrameLog("BuildPanels: splitter created");
+  canvas_ = new CanvasPanel(inner, *this);
+  palette_->connectCanvas(*canvas_);
+  FrameLog("BuildPanels: canvas created");
+  properties_ = new PropertiesPanel(inner, *this);
+  FrameLog("BuildPanels: properties created");
+  inner->SplitVertically(canvas_, properties_, kPropertiesSash);
+  inner->SetMinimumPaneSize(kInnerMinPane);
+  FrameLog("BuildPanels: split done");
+  outer->SplitVertically(palette_, inner, kPaletteSash);
+  outer->SetMinimumPaneSize(kOuterMinPane);
+  FrameLog("BuildPanels: adding to sizer");
+  sizer->Add(outer, 1, wxEXPAND);
+  FrameLog("BuildPanels: outerSplit added");
+  root_->SetSizer(sizer);
+  FrameLog("BuildPanels: sizer set");
+  root_->Layout();
+  FrameLog("BuildPanels: layout done");
+  palette_->RefreshAll();
+  UpdateTitle();
+  FrameLog("BuildPanels: palette populated");
+}
+
+}  // namespace vantrel

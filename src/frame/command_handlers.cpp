@@ -1,0 +1,126 @@
+// What the commands do that are no more than a switch on the document or a call to a panel.
+#include <wx/menu.h>
+#include <wx/printdlg.h>
+#include <wx/toolbar.h>
+
+#include <cstdint>
+
+#include "canvas/canvas_panel.h"
+#include "doc/layout_ops.h"
+#include "doc/undo.h"
+#include "frame/commands.h"
+#include "frame/experience_dialog.h"
+#include "frame/main_frame.h"
+#include "frame/message_boxes.h"
+
+namespace vantrel {
+namespace {
+
+constexpr double kZoomInStep = 1.25;
+constexpr double kZoomOutStep = 0.8;
+
+}  // namespace
+
+void MainFrame::onPageSetup(wxCommandEvent&) {
+  wxPageSetupDialog dialog(this, &pageSetupData_);
+  if (dialog.ShowModal() != wxID_OK) return;
+  pageSetupData_ = dialog.GetPageSetupDialogData();
+  printData_ = pageSetupData_.GetPrintData();
+}
+
+void MainFrame::onExit(wxCommandEvent&) {
+  Close(false);
+}
+
+// Both mark the layout as changed even when the history was empty: what is shown may have been
+// saved, but the user has asked for another state.
+void MainFrame::onUndo(wxCommandEvent&) {
+  Undo(layout_);
+  refreshViews();
+  markDirty();
+}
+
+void MainFrame::onRedo(wxCommandEvent&) {
+  Redo(layout_);
+  refreshViews();
+  markDirty();
+}
+
+void MainFrame::onSelectAll(wxCommandEvent&) {
+  for (Piece& piece : layout_.pieces) piece.sel = true;
+  for (SceneryItem& item : layout_.scenery) item.sel = true;
+  refreshViews();
+  selectionChanged();
+}
+
+void MainFrame::onZoomIn(wxCommandEvent&) {
+  canvas_->zoomCentred(kZoomInStep);
+}
+
+void MainFrame::onZoomOut(wxCommandEvent&) {
+  canvas_->zoomCentred(kZoomOutStep);
+}
+
+void MainFrame::onZoomToFit(wxCommandEvent&) {
+  canvas_->zoomToFit(false);
+}
+
+void MainFrame::onShowGrid(wxCommandEvent& event) {
+  canvas_->showGrid(event.IsChecked());
+}
+
+void MainFrame::onSnap(wxCommandEvent& event) {
+  layout_.snapEnabled = event.IsChecked();
+}
+
+void MainFrame::onUnits(wxCommandEvent& event) {
+  layout_.units = event.GetId() - kCmdMillimetres + Units::kMillimetres;
+  canvas_->Refresh();
+  selectionChanged();
+}
+
+void MainFrame::onHideLabels(wxCommandEvent& event) {
+  layout_.labelsVisible = !event.IsChecked();
+  GetToolBar()
+      ->FindById(kCmdHideLabels)
+      ->SetLabel(layout_.labelsVisible ? "Hide Labels" : "Show Labels");
+  GetToolBar()->Realize();
+  refreshViews();
+}
+
+void MainFrame::onTool(wxCommandEvent& event) {
+  switchTool(event.GetId(), event.IsChecked());
+}
+
+void MainFrame::switchTool(int id, bool on) {
+  const bool measuring = id == kCmdMeasure;
+  if (on) {
+    layout_.toolMode = measuring ? kMeasureTool : kPolygonTool;
+    ClearSelection(layout_);
+    selectionChanged();
+    GetToolBar()->ToggleTool(measuring ? kCmdPolygon : kCmdMeasure, false);
+  } else {
+    layout_.toolMode = kNoTool;
+  }
+  canvas_->setToolCursor(on);
+  canvas_->Refresh();
+}
+
+void MainFrame::onValidate(wxCommandEvent&) {
+  Inform(this, "Validate", "Validation not yet implemented.");
+}
+
+void MainFrame::onLayoutProperties(wxCommandEvent&) {
+  Inform(this, "Properties", "Layout properties not yet implemented.");
+}
+
+void MainFrame::onOptions(wxCommandEvent&) {
+  AskExperience(this, folders_.prefsPath);
+}
+
+void MainFrame::onUpdateUi(wxUpdateUIEvent& event) {
+  const int id = event.GetId();
+  event.Enable(IsCommandAvailable(id) && DocumentAllows(id, layout_));
+}
+
+}  // namespace vantrel

@@ -1,0 +1,15 @@
+// Menu bar and toolbar, built from the command table.
+#pragma once
+
+class wxFrame;
+class wxToolBar;
+
+namespace vantrel {
+
+// Gives the frame its menu bar.
+void BuildMenuBar(wxFrame& frame);
+
+// Adds the tools and their separators, and realizes the toolbar.
+void FillToolBar(wxToolBar& bar);
+
+}  // namespace vantrel

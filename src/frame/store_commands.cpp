@@ -1,0 +1,184 @@
+// New, Save, Open and Close, and the question that guards unsaved changes.
+#include <wx/menu.h>
+#include <wx/textdlg.h>
+
+#include <algorithm>
+
+#include "canvas/canvas_panel.h"
+#include "canvas/operations/joining.h"
+#include "catalog/track_catalog.h"
+#include "doc/layout_ops.h"
+#include "doc/undo.h"
+#include "frame/commands.h"
+#include "frame/main_frame.h"
+#include "frame/message_boxes.h"
+#include "frame/open_dialog.h"
+#include "frame/program_title.h"
+#include "frame/status_text.h"
+#include "frame/store_folder.h"
+#include "frame/text.h"
+#include "io/layout_file.h"
+#include "palette/palette_panel.h"
+#include "properties/properties_panel.h"
+
+namespace vantrel {
+namespace {
+
+constexpr const char* kFirstName = "My Layout";
+
+bool HoldsZTrack(const Layout& layout) {
+  return std::ranges::any_of(layout.pieces, [](const Piece& piece) {
+    const PieceDef* def = findPart(piece.cat);
+    return def && def->system == TrackSystem::MarklinZ;
+  });
+}
+
+}  // namespace
+
+// Each flow ends by forgetting what the user agreed to. An exception skips that, on purpose: it is
+// reported after the flow is gone, and the answer still counts then.
+void MainFrame::onNew(wxCommandEvent&) {
+  newLayout();
+  discardAgreed_ = false;
+}
+
+void MainFrame::onOpen(wxCommandEvent&) {
+  openLayout();
+  discardAgreed_ = false;
+}
+
+void MainFrame::onSave(wxCommandEvent&) {
+  SaveLayout(false);
+}
+
+void MainFrame::onSaveAs(wxCommandEvent&) {
+  SaveLayout(true);
+}
+
+void MainFrame::onCloseWindow(wxCloseEvent& event) {
+  if (event.CanVeto() && !ConfirmDiscard()) {
+    event.Veto();
+    return;
+  }
+  Destroy();
+}
+
+bool MainFrame::ConfirmDiscard() {
+  if (!dirty_) return true;
+  switch (AskToSave("Unsaved Changes", "You have unsaved changes. Save before continuing?")) {
+    case SaveAnswer::save:
+      return SaveLayout(false);
+    case SaveAnswer::discard:
+      discardAgreed_ = true;
+      return true;
+    case SaveAnswer::cancel:
+      break;
+  }
+  return false;
+}
+
+// layoutName stays: it is the default of the next save dialog.
+void MainFrame::newLayout() {
+  if (!ConfirmDiscard()) return;
+  ClearContents(layout_);
+  layout_.baseboard.clear();
+  layout_.levels.clear();
+  EnsureDefaultLevel(layout_);
+  layout_.activeLevel = 1;
+  ResetGrades(layout_);
+  currentPath_.clear();
+  dirty_ = false;
+  SetTitle(kProgramTitle);
+  canvas_->resetView();
+  properties_->RefreshSelection();
+  setStatus(kStatusMessage, ReadyText(layout_));
+  setStatus(kStatusPieces, PiecesText(0));
+}
+
+bool MainFrame::SaveLayout(bool askName) {
+  if ((askName || currentPath_.empty()) && !askLayoutName()) return false;
+  return writeLayout();
+}
+
+bool MainFrame::writeLayout() {
+  const std::string problem = SaveLayoutFile(layout_, currentPath_, layoutName_);
+  if (!problem.empty()) {
+    ReportError(nullptr, "Save Failed", problem);
+    return false;
+  }
+  dirty_ = false;
+  UpdateTitle();
+  return true;
+}
+
+// Sets currentPath and layoutName, which stay even when the write then fails.
+bool MainFrame::askLayoutName() {
+  wxTextEntryDialog dialog(this, "Layout name:", "Save Layout",
+                           ToWx(layoutName_.empty() ? kFirstName : layoutName_));
+  if (dialog.ShowModal() != wxID_OK) return false;
+  std::string name = ToUtf8(Trimmed(dialog.GetValue()));
+  if (name.empty()) name = kFirstName;
+  const std::string path = LayoutPath(folders_.store, name);
+  if (FileExists(path) && !confirmReplace(name)) return false;
+  currentPath_ = path;
+  layoutName_ = name;
+  return true;
+}
+
+bool MainFrame::confirmReplace(const std::string& name) {
+  return AskCautiously(this, "Confirm Replace",
+                       "A layout named \"" + name + "\" already exists.\n\nReplace it?");
+}
+
+void MainFrame::openLayout() {
+  if (!ConfirmDiscard()) return;
+  std::vector<std::string> files = LayoutFiles(folders_.store);
+  if (files.empty()) {
+    Inform(this, "Open Layout", "No layouts found in\n" + folders_.store);
+    return;
+  }
+  std::string path;
+  {
+    OpenDialog dialog(this, std::move(files),
+                      [this](const std::string& deleted) { forgetFile(deleted); });
+    if (dialog.ShowModal() == wxID_OK) path = dialog.chosenPath();
+  }
+  if (!path.empty()) LoadIntoFrame(path);
+}
+
+// The open document stays as it is, without a file.
+void MainFrame::forgetFile(const std::string& path) {
+  if (path == currentPath_) currentPath_.clear();
+}
+
+void MainFrame::LoadIntoFrame(const std::string& path) {
+  std::string name;
+  const std::string problem = LoadLayoutFile(layout_, path, name);
+  if (!problem.empty()) {
+    ReportError(nullptr, "Open Failed", problem);
+    return;
+  }
+  GrowAllJoints(layout_);
+  EnsureDefaultLevel(layout_);
+  currentPath_ = path;
+  layoutName_ = name;
+  dirty_ = false;
+  UpdateTitle();
+  showLoadedLayout();
+}
+
+void MainFrame::showLoadedLayout() {
+  const bool known = layout_.units > kMillimetres && layout_.units <= kInches;
+  GetMenuBar()->Check(kCmdMillimetres + (known ? layout_.units : kMillimetres), true);
+  refreshViews();
+  if (HoldsZTrack(layout_))
+    canvas_->resetViewUnitScale();
+  else
+    canvas_->zoomToFit(false);
+  properties_->RefreshSelection();
+  palette_->SelectSystemFor(layout_);
+  setStatus(kStatusMessage, ReadyText(layout_));
+  setStatus(kStatusPieces, PiecesText(layout_.pieces.size()));
+}
+
+}  // namespace vantrel

@@ -1,0 +1,125 @@
+// A main frame in folders of its own, with the experience question already answered for business.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <wx/app.h>
+#include <wx/debug.h>
+#include <wx/listbox.h>
+#include <wx/log.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "app/services/prefs.h"
+#include "frame/commands.h"
+#include "frame/main_frame.h"
+#include "tests/support/modal_script.h"
+#include "tests/support/temp_folder.h"
+
+namespace vantrel {
+
+inline void FailOnAssert(const wxString& file, int line, const wxString&, const wxString& condition,
+                         const wxString& message) {
+  ADD_FAILURE() << "toolkit assertion at " << file << ":" << line << ": " << condition << " "
+                << message;
+}
+
+class FrameTest : public testing::Test {
+ protected:
+  FrameTest() {
+    previousHandler_ = wxSetAssertHandler(FailOnAssert);
+    wxLog::SetLogLevel(wxLOG_Warning);  // the splash registers the image handlers each time
+    folders_.store = temp_.at("store");
+    folders_.prefsPath = temp_.at("store/prefs.cfg");
+    folders_.data = temp_.at("data");
+    folders_.downloads = temp_.at("downloads");
+    folders_.home = temp_.at("home");
+    for (const std::string& folder : {folders_.store, folders_.downloads, folders_.home})
+      std::filesystem::create_directory(folder);
+    Prefs() = {};
+    WriteFileText(folders_.prefsPath, "playful=0\nasked=1\n");
+  }
+
+  ~FrameTest() override {
+    delete frame_;
+    wxTheApp->ProcessPendingEvents();
+    Prefs() = {};
+    wxSetAssertHandler(previousHandler_);
+  }
+
+  // Made when it is first asked for.
+  MainFrame& frame() {
+    if (!frame_) frame_ = new MainFrame(folders_);
+    return *frame_;
+  }
+  Layout& plan() { return frame().layout(); }
+
+  // As if the menu entry or tool had been chosen.
+  void command(int id, bool checked = false) {
+    wxCommandEvent event(wxEVT_MENU, id);
+    event.SetEventObject(&frame());
+    event.SetInt(checked ? 1 : 0);
+    frame().ProcessWindowEvent(event);
+  }
+
+  Piece& addPiece(const std::string& part = "24188") {
+    Piece piece;
+    piece.id = plan().nextId++;
+    piece.cat = part;
+    plan().pieces.push_back(piece);
+    return plan().pieces.back();
+  }
+
+  std::string inStore(const std::string& fileName) const { return folders_.store + "/" + fileName; }
+  std::string title() { return frame().GetTitle().utf8_string(); }
+  std::string statusText(StatusField field) { return frame().status(field); }
+
+  // Makes the store a folder that nobody, root included, can write into: its path runs through a
+  // regular file.
+  void makeStoreUnwritable() {
+    WriteFileText(temp_.at("a file"), "");
+    folders_.store = temp_.at("a file/store");
+    folders_.prefsPath = folders_.store + "/prefs.cfg";
+  }
+
+  TempFolder temp_;
+  ProgramFolders folders_;
+  MainFrame* frame_ = nullptr;
+
+ private:
+  wxAssertHandler_t previousHandler_ = nullptr;
+};
+
+// Selects a row as a click does.
+inline void ClickRow(wxListBox& list, int row) {
+  list.SetSelection(row);
+  wxCommandEvent event(wxEVT_LISTBOX, list.GetId());
+  event.SetEventObject(&list);
+  event.SetInt(row);
+  list.ProcessWindowEvent(event);
+}
+
+inline void DoubleClickRow(wxListBox& list, int row) {
+  ClickRow(list, row);
+  wxCommandEvent event(wxEVT_LISTBOX_DCLICK, list.GetId());
+  event.SetEventObject(&list);
+  event.SetInt(row);
+  list.ProcessWindowEvent(event);
+}
+
+inline void ClickRow(wxDialog& dialog, int row) {
+  wxListBox* list = FindControl<wxListBox>(dialog);
+  ASSERT_NE(list, nullptr);
+  ClickRow(*list, row);
+}
+
+// The text of a small layout file with one straight.
+inline std::string LayoutText(const std::string& name, const std::string& part = "24188") {
+  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<layout name=\"" + name +
+         "\" version=\"1\" units=\"0\">\n  <pieces>\n    <piece id=\"1\" cat=\"" + part +
+         "\" x=\"100.0000\" y=\"50.0000\" heading=\"0.0000\" z=\"0.0000\" grade=\"0.0000\" "
+         "level=\"1\" sel=\"0\">\n    </piece>\n  </pieces>\n</layout>\n";
+}
+
+}  // namespace vantrel
