@@ -15,9 +15,17 @@ void CollectIds(const std::vector<Record>& records, std::unordered_set<std::int3
 // An id that only a dangling reference still names isn't free either: a new record would inherit
 // it.
 void CollectReferences(const Layout& layout, std::unordered_set<std::int32_t>& ids) {
-  for (const Piece& piece : layout.pieces)
+  for (const Piece& piece : layout.pieces) {
+    ids.insert(piece.helix);
     for (const Joint& joint : piece.joints) ids.insert(joint.target);
+  }
   for (const GradeRun& run : layout.gradeRuns) ids.insert(run.anchor);
+  for (const Tunnel& tunnel : layout.tunnels) {
+    ids.insert({tunnel.portalA, tunnel.portalB, tunnel.anchorA, tunnel.anchorB});
+    ids.insert(tunnel.covers.begin(), tunnel.covers.end());
+  }
+  for (const Helix& helix : layout.helices)
+    ids.insert({helix.bottomR1, helix.bottomR2, helix.topR1, helix.topR2});
 }
 
 std::int32_t LowestFreeId(const Layout& layout) {

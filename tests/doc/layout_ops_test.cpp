@@ -49,9 +49,18 @@ TEST(TakeId, DoesNotReviveAnIdThatADanglingReferenceStillNames) {
   layout.nextId = kLargestId;
   Piece piece = PieceWithId(kLargestId);
   piece.joints = {{.target = 1, .tconn = 0}};
+  piece.helix = 2;
   layout.pieces.push_back(piece);
-  layout.gradeRuns.push_back({.deg = 2.0, .anchor = 2, .conn = 0});
-  EXPECT_EQ(TakeId(layout), 3);
+  layout.gradeRuns.push_back({.deg = 2.0, .anchor = 3, .conn = 0});
+  layout.tunnels.push_back({.id = kLargestId - 1,
+                            .portalA = 4,
+                            .portalB = 5,
+                            .anchorA = 6,
+                            .anchorB = 7,
+                            .covers = {8, 9}});
+  layout.helices.push_back(
+      {.id = kLargestId - 2, .bottomR1 = 10, .bottomR2 = 11, .topR1 = 12, .topR2 = 13});
+  EXPECT_EQ(TakeId(layout), 14);
 }
 
 TEST(EnsureDefaultLevel, AppendsTheBlueGreyFirstLevelToNone) {
