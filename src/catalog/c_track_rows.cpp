@@ -1,6 +1,9 @@
 // The rows of Marklin C-Track, in build order. Lengths and radii are the manufacturer's catalog
-// figures in mm, angles in degrees; connector coordinates of irregular pieces are given in mm to
-// two decimals.
+// figures in mm, angles in degrees; connector coordinates of irregular pieces are given in mm.
+//
+// Some figures don't agree with their description or with a like row: 74620 is 188.3 mm long, 24624
+// has a radius of 437.4 mm in a family of 437.5, 24712 keeps the angle of 24711. They stay, because
+// saved plans were laid with them.
 #include "catalog/track_rows.h"
 
 namespace vantrel {
@@ -287,6 +290,7 @@ constexpr TrackRow kRows[] = {
      .maker = straight,
      .length = 180.0,
      .connectorSystems = {0, 1}},
+    // Its far end joins a system that the catalog doesn't hold, so it offers no connector there.
     {.part = "24951",
      .description = "24951 Adapter C-Track to M-Track 180mm",
      .maker = listed,

@@ -1,6 +1,5 @@
 // The rows of TRIX C-Track, in build order. Lengths and radii are the manufacturer's catalog
-// figures in mm, angles in degrees; connector coordinates of irregular pieces are given in mm to
-// two decimals.
+// figures in mm, angles in degrees; connector coordinates of irregular pieces are given in mm.
 #include "catalog/track_rows.h"
 
 namespace vantrel {
