@@ -210,6 +210,39 @@ TEST_F(PaletteDragging, CancellingEndsEveryDragFromThePalette) {
   EXPECT_EQ(host.repaints, 1);
 }
 
+TEST_F(PaletteDragging, EveryChangeOfThePreviewIsPainted) {
+  beginPieceDrag(context, "24188");
+  EXPECT_EQ(host.repaints, 1);
+  wheel(1850, 0, kNotch);
+  EXPECT_EQ(host.repaints, 2);
+  pressRight(1850, 0);
+  EXPECT_EQ(host.repaints, 3);
+  key('R');
+  EXPECT_EQ(host.repaints, 4);
+  pressLeft(1850, 0);
+  EXPECT_EQ(host.repaints, 5);
+}
+
+TEST_F(PaletteDragging, PaintsTheGhostWhereItWillLieAndNotAtThePointerWhenItHasSnapped) {
+  layout.gridVisible = false;
+  lay("24188", {0.0, 0.0, 0.0});
+  state.view = {.scale = 1.0, .offsetX = 100.0, .offsetY = 100.0};
+  beginPieceDrag(context, "24188");
+  move(300, 110);
+  // Far ends: 100 + 188.3 + 188.3 = 476.6 where it snaps, 300 + 188.3 = 488.3 at the pointer.
+  int snapped = 0;
+  int atPointer = 0;
+  const std::unique_ptr<RecordingDC> dc = paint();
+  for (const DrawCall& polygon : dc->callsOf(DrawOp::polygon)) {
+    for (const wxPoint& point : polygon.points) {
+      snapped += point.x == 476 ? 1 : 0;
+      atPointer += point.x == 488 ? 1 : 0;
+    }
+  }
+  EXPECT_GE(snapped, 2);
+  EXPECT_EQ(atPointer, 0);
+}
+
 TEST_F(PaletteDragging, PaintsTheGhostAndMarksTheEndItSnapsTo) {
   lay("24188", {0.0, 0.0, 0.0});
   state.view = {.scale = 1.0, .offsetX = 100.0, .offsetY = 100.0};

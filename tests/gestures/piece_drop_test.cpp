@@ -120,6 +120,45 @@ TEST_F(PieceDrop, TheRefusalKnowsNoNameForZTrack) {
       << host.boxes[0].text;
 }
 
+TEST_F(PieceDrop, TheRefusalKnowsNoNameForAnEndOfZTrackEither) {
+  lay("8500", {0.0, 0.0, 0.0});  // 110 mm
+  beginPieceDrag(context, "24188");
+  move(1150, 0);
+  clickLeft(1150, 0);
+  ASSERT_EQ(host.boxes.size(), 1u);
+  EXPECT_TRUE(host.boxes[0].text.starts_with("Marklin C-Track cannot connect to Unknown.\n\n"))
+      << host.boxes[0].text;
+}
+
+// Notes whether the mouse was still captured when a box came up.
+class BoxWatchingHost : public RecordingHost {
+ public:
+  bool capturedAtBox = false;
+
+  void inform(const std::string& title, const std::string& text, BoxIcon icon) override {
+    capturedAtBox = captured;
+    RecordingHost::inform(title, text, icon);
+  }
+};
+
+TEST_F(PieceDrop, TheMouseIsGivenBackAtThePressAndBeforeTheBox) {
+  BoxWatchingHost watching;
+  CanvasContext watched{layout, state, watching};
+  lay("2200", {0.0, 0.0, 0.0});
+  beginPieceDrag(watched, "24188");
+  EXPECT_TRUE(watching.captured);
+  onMotion(watched, at(1850, 0));
+  onLeftPress(watched, at(1850, 0));
+  ASSERT_EQ(watching.boxes.size(), 1u);
+  EXPECT_FALSE(watching.capturedAtBox);
+
+  beginPieceDrag(context, "24188");
+  move(1850, 9000);
+  pressLeft(1850, 9000);
+  EXPECT_EQ(layout.pieces.size(), 2u);
+  EXPECT_FALSE(host.captured);
+}
+
 TEST_F(PieceDrop, AnEndThatFitsIsTakenAlthoughAnotherSystemsEndIsInReachToo) {
   const std::int32_t first = lay("24188", {0.0, 0.0, 0.0});
   lay("2200", {5.0, 15.0, 0.0});  // its far end lies at (185, 15), 15.8 mm off the pointer

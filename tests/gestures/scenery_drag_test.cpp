@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "canvas/gestures/palette_drag.h"
 #include "doc/undo.h"
 #include "tests/gestures/canvas_driver.h"
@@ -26,6 +28,7 @@ TEST_F(SceneryDragging, StartsAtAPlaceholderAndEndsTheOtherDrags) {
   EXPECT_FALSE(state.paletteDrag.active);
   EXPECT_FALSE(state.helixPlacement.active);
   EXPECT_TRUE(host.captured);
+  EXPECT_EQ(host.focusTaken, 2) << "for the keys, which would go to the palette's list";
 }
 
 TEST_F(SceneryDragging, AnUnknownItemStartsNothingAndEndsNothing) {
@@ -120,10 +123,30 @@ TEST_F(SceneryDragging, ARoundhouseDroppedNearATurntablePitTurnsToItsRing) {
   EXPECT_NEAR(layout.scenery[1].y, 521.1, 1e-9);
 }
 
-TEST_F(SceneryDragging, PaintsTheGhostAtThePointer) {
-  const std::size_t quiet = paint()->calls().size();
+TEST_F(SceneryDragging, EveryChangeOfThePreviewIsPainted) {
   beginSceneryDrag(context, "car");
-  EXPECT_GT(paint()->calls().size(), quiet);
+  EXPECT_EQ(host.repaints, 1);
+  move(300, 200);
+  EXPECT_EQ(host.repaints, 2);
+  wheel(300, 200, kNotch);
+  EXPECT_EQ(host.repaints, 3);
+  pressRight(300, 200);
+  EXPECT_EQ(host.repaints, 4);
+  key('R');
+  EXPECT_EQ(host.repaints, 5);
+}
+
+TEST_F(SceneryDragging, PaintsTheGhostAtThePointerAndTurnedAsItWillStand) {
+  state.view = {.scale = 1.25, .offsetX = 0.0, .offsetY = 0.0};
+  beginSceneryDrag(context, "car");  // 50 by 20 mm: 62.5 by 25 pixels
+  move(300, 200);
+  for (int i = 0; i < 3; ++i) wheel(300, 200, kNotch);
+  std::vector<std::vector<wxPoint>> frames;
+  for (const DrawCall& polygon : paint()->callsOf(DrawOp::polygon))
+    if (polygon.pen.style == wxPENSTYLE_DOT) frames.push_back(polygon.points);
+  // At 90 degrees 12.5 to either side and 31.25 up and down, truncated.
+  ASSERT_EQ(frames.size(), 1u);
+  EXPECT_EQ(frames[0], (std::vector<wxPoint>{{312, 168}, {312, 231}, {287, 231}, {287, 168}}));
 }
 
 }  // namespace

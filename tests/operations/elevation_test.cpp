@@ -116,6 +116,15 @@ TEST(ApplyJoinElevation, ReversesAPieceThatTheRunEntersAtConnector1) {
   EXPECT_NEAR(PieceOf(layout, next).z, 112.8535, 1e-4);
 }
 
+TEST(ApplyJoinElevation, GoesThroughATurnoutJoinedByItsBranchInTheForwardSense) {
+  Layout layout;
+  const std::int32_t anchor = LayAnchor(layout, 2.0);
+  const std::int32_t turnout = Join(layout, "24611", 2, anchor, 1);
+  EXPECT_NEAR(PieceOf(layout, turnout).z, 6.5716, 1e-4);
+  EXPECT_FALSE(PieceOf(layout, turnout).rev);
+  EXPECT_EQ(layout.gradeRuns[0], (GradeRun{.deg = 2.0, .anchor = turnout, .conn = 1}));
+}
+
 TEST(ApplyJoinElevation, LetsACurveRiseByItsChord) {
   Layout layout;
   const std::int32_t anchor = LayAnchor(layout, 2.0);
