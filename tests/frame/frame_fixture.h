@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/debug.h>
+#include <wx/dirdlg.h>
 #include <wx/listbox.h>
 #include <wx/log.h>
+#include <wx/utils.h>
 
 #include <filesystem>
 #include <memory>
@@ -29,7 +31,8 @@ class FrameTest : public testing::Test {
  protected:
   FrameTest() {
     previousHandler_ = wxSetAssertHandler(FailOnAssert);
-    wxLog::SetLogLevel(wxLOG_Warning);  // the splash registers the image handlers each time
+    wxSetEnv("GSETTINGS_BACKEND", "memory");  // the user's own desktop settings stay as they are
+    wxLog::SetLogLevel(wxLOG_Warning);        // the splash registers the image handlers each time
     folders_.store = temp_.at("store");
     folders_.prefsPath = temp_.at("store/prefs.cfg");
     folders_.data = temp_.at("data");
@@ -112,6 +115,21 @@ inline void ClickRow(wxDialog& dialog, int row) {
   wxListBox* list = FindControl<wxListBox>(dialog);
   ASSERT_NE(list, nullptr);
   ClickRow(*list, row);
+}
+
+// Chooses a folder in the platform's own folder dialog, which has to be on the screen for that.
+inline ModalScript::Action ChooseFolder(const std::string& question, const std::string& folder) {
+  return [=](wxDialog& dialog) {
+    auto* chooser = dynamic_cast<wxDirDialog*>(&dialog);
+    ASSERT_NE(chooser, nullptr);
+    EXPECT_EQ(chooser->GetMessage(), wxString(question));
+    chooser->SetPath(folder);
+    for (int i = 0; i < 30; ++i) {
+      wxTheApp->Yield();
+      wxMilliSleep(10);
+    }
+    chooser->GTKOnAccept();
+  };
 }
 
 // The text of a small layout file with one straight.

@@ -1,0 +1,80 @@
+#include "frame/experience_dialog.h"
+
+#include <gtest/gtest.h>
+#include <wx/button.h>
+#include <wx/stattext.h>
+
+#include "tests/frame/frame_fixture.h"
+
+namespace vantrel {
+namespace {
+
+class Experience : public FrameTest {
+ protected:
+  void ask() { AskExperience(&frame(), folders_.prefsPath); }
+  std::string prefsFile() const { return ReadFileText(folders_.prefsPath); }
+
+  static void click(wxDialog& dialog, const wxString& label) {
+    auto* button = FindControl<wxButton>(dialog, label);
+    ASSERT_NE(button, nullptr);
+    wxCommandEvent event(wxEVT_BUTTON, button->GetId());
+    event.SetEventObject(button);
+    button->ProcessWindowEvent(event);
+  }
+};
+
+TEST_F(Experience, ClosingByTheTitleBarIsAnAnswerForBusiness) {
+  frame();
+  WriteFileText(folders_.prefsPath, "playful=1\nasked=0\n");
+  Prefs() = {true, false};
+  ModalScript script;
+  script.shown("Choose Your Experience", [](wxDialog& dialog) { dialog.Close(); });
+  ask();
+  EXPECT_EQ(prefsFile(), "playful=0\nasked=1\n");
+  EXPECT_FALSE(Prefs().playful);
+  EXPECT_TRUE(Prefs().asked);
+}
+
+TEST_F(Experience, KeepItPlayfulIsRemembered) {
+  Prefs() = {false, false};
+  ModalScript script;
+  script.shown("Choose Your Experience",
+               [](wxDialog& dialog) { click(dialog, "Keep it Playful"); });
+  ask();
+  EXPECT_EQ(prefsFile(), "playful=1\nasked=1\n");
+  EXPECT_TRUE(Prefs().playful);
+}
+
+TEST_F(Experience, DownToBusinessIsRemembered) {
+  Prefs() = {true, false};
+  ModalScript script;
+  script.shown("Choose Your Experience",
+               [](wxDialog& dialog) { click(dialog, "Down to Business"); });
+  ask();
+  EXPECT_EQ(prefsFile(), "playful=0\nasked=1\n");
+  EXPECT_FALSE(Prefs().playful);
+}
+
+TEST_F(Experience, OffersTwoLargeButtonsUnderTheQuestion) {
+  ExperienceDialog dialog(&frame());
+  const int normal = dialog.GetFont().GetPointSize();
+  auto* question = FindControl<wxStaticText>(dialog, "How would you like Vantrel to greet you?");
+  ASSERT_NE(question, nullptr);
+  EXPECT_EQ(question->GetFont().GetPointSize(), normal + 1);
+  EXPECT_EQ(question->GetFont().GetWeight(), wxFONTWEIGHT_BOLD);
+  const std::vector<wxButton*> buttons = FindControls<wxButton>(dialog);
+  ASSERT_EQ(buttons.size(), 2u);
+  EXPECT_EQ(buttons[0]->GetLabel(), "Keep it Playful");
+  EXPECT_EQ(buttons[0]->GetId(), 5103);
+  EXPECT_EQ(buttons[1]->GetLabel(), "Down to Business");
+  EXPECT_EQ(buttons[1]->GetId(), 5104);
+  for (wxButton* button : buttons) {
+    EXPECT_GE(button->GetSize().x, 160);
+    EXPECT_GE(button->GetSize().y, 38);
+    EXPECT_EQ(button->GetFont().GetPointSize(), normal + 1);
+    EXPECT_GE(button->GetSize().x, button->GetBestSize().x) << "cut off";
+  }
+}
+
+}  // namespace
+}  // namespace vantrel

@@ -1,0 +1,77 @@
+#include <gtest/gtest.h>
+
+#include "canvas/canvas_panel.h"
+#include "doc/layout_ops.h"
+#include "tests/frame/frame_fixture.h"
+
+namespace vantrel {
+namespace {
+
+class NewLayout : public FrameTest {
+ protected:
+  void fill() {
+    addPiece();
+    plan().scenery.emplace_back();
+    plan().baseboard = {{0, 0}, {100, 0}, {0, 100}};
+    plan().levels = {Level{}, Level{.id = 2, .name = "Upper", .height = 120.0}};
+    plan().activeLevel = 2;
+    plan().gradeRuns = {{3.0, 1, 1}};
+    SyncCurrentGrade(plan());
+    plan().units = kInches;
+    plan().snapEnabled = false;
+    frame().canvas().zoomCentred(3.0);
+  }
+};
+
+TEST_F(NewLayout, EmptiesTheDocumentButNotItsSettings) {
+  fill();
+  frame().setStatus(kStatusPieces, "Pieces: 1");
+  command(5002);
+  EXPECT_TRUE(plan().pieces.empty() && plan().scenery.empty() && plan().baseboard.empty());
+  ASSERT_EQ(plan().levels.size(), 1u);
+  EXPECT_EQ(plan().levels[0].id, 1);
+  EXPECT_EQ(plan().activeLevel, 1);
+  EXPECT_EQ(plan().nextId, 1);
+  EXPECT_TRUE(plan().gradeRuns.empty());
+  EXPECT_FALSE(plan().currentGrade.active);
+  EXPECT_EQ(plan().units, kInches);
+  EXPECT_FALSE(plan().snapEnabled);
+  EXPECT_EQ(frame().canvas().view(), ViewTransform{});
+  EXPECT_EQ(statusText(kStatusMessage), "Ready");
+  EXPECT_EQ(statusText(kStatusPieces), "Pieces: 0");
+}
+
+TEST_F(NewLayout, CloseDoesTheSame) {
+  fill();
+  command(5001);
+  EXPECT_TRUE(plan().pieces.empty());
+  EXPECT_EQ(plan().nextId, 1);
+}
+
+TEST_F(NewLayout, ReachesBackByUndoToTheTrackButNotToLevelsAndBaseboard) {
+  fill();
+  plan().pieces[0].level = 2;
+  command(5002);
+  command(2002);
+  ASSERT_EQ(plan().pieces.size(), 1u);
+  EXPECT_EQ(plan().pieces[0].level, 2) << "the name of a level that is gone";
+  EXPECT_EQ(FindLevel(plan(), 2), nullptr);
+  EXPECT_TRUE(plan().baseboard.empty());
+  EXPECT_EQ(plan().gradeRuns.size(), 1u);
+  EXPECT_EQ(plan().nextId, 1);
+}
+
+TEST_F(NewLayout, KeepsTheOldNameForTheNextSaveAndTheNextTitle) {
+  WriteFileText(inStore("Old.vtl"), LayoutText("Old"));
+  frame().LoadIntoFrame(inStore("Old.vtl"));
+  command(5002);
+  EXPECT_EQ(frame().currentPath(), "");
+  EXPECT_FALSE(frame().dirty());
+  EXPECT_EQ(title(), "Vantrel v1.5 by Kelmor");
+  EXPECT_EQ(frame().layoutName(), "Old");
+  frame().markDirty();
+  EXPECT_EQ(title(), "Vantrel v1.5 by Kelmor - Old *");
+}
+
+}  // namespace
+}  // namespace vantrel

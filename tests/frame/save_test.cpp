@@ -1,0 +1,225 @@
+#include <gtest/gtest.h>
+#include <wx/textdlg.h>
+
+#include "tests/frame/frame_fixture.h"
+
+namespace vantrel {
+namespace {
+
+constexpr const char* kUnsavedText = "You have unsaved changes. Save before continuing?";
+
+// What the save dialog is given; what it offered goes to `offered`.
+ModalScript::Action TypeName(const std::string& name, std::string* offered = nullptr) {
+  return [=](wxDialog& dialog) {
+    auto* entry = dynamic_cast<wxTextEntryDialog*>(&dialog);
+    ASSERT_NE(entry, nullptr);
+    if (offered) *offered = entry->GetValue().utf8_string();
+    entry->SetValue(wxString::FromUTF8(name));
+  };
+}
+
+class Save : public FrameTest {
+ protected:
+  void save() { command(5003); }
+  void saveAs() { command(5004); }
+  void saveUnder(const std::string& name) {
+    ModalScript script;
+    script.dialog("Save Layout", wxID_OK, TypeName(name));
+    saveAs();
+  }
+};
+
+TEST_F(Save, AsksForANameTheFirstTimeAndWritesIntoTheStore) {
+  addPiece();
+  frame().markDirty();
+  std::string offered;
+  ModalScript script;
+  script.dialog("Save Layout", wxID_OK, TypeName("  Hauptbahnhof Süd \t", &offered));
+  save();
+  EXPECT_EQ(offered, "My Layout");
+  EXPECT_EQ(frame().currentPath(), inStore("Hauptbahnhof Süd.vtl"));
+  EXPECT_EQ(frame().layoutName(), "Hauptbahnhof Süd");
+  EXPECT_FALSE(frame().dirty());
+  EXPECT_EQ(title(), "Vantrel v1.5 by Kelmor - Hauptbahnhof Süd");
+  EXPECT_NE(ReadFileText(inStore("Hauptbahnhof Süd.vtl"))
+                .find("<layout name=\"Hauptbahnhof Süd\" version=\"1\" units=\"0\">"),
+            std::string::npos);
+}
+
+TEST_F(Save, AsksNothingWhenTheLayoutHasAFile) {
+  saveUnder("One");
+  addPiece();
+  frame().markDirty();
+  ModalScript none;
+  save();
+  EXPECT_FALSE(frame().dirty());
+  EXPECT_NE(ReadFileText(inStore("One.vtl")).find("cat=\"24188\""), std::string::npos);
+}
+
+TEST_F(Save, AnEmptyNameBecomesMyLayout) {
+  saveUnder("   ");
+  EXPECT_EQ(frame().layoutName(), "My Layout");
+  EXPECT_TRUE(std::filesystem::exists(inStore("My Layout.vtl")));
+}
+
+TEST_F(Save, CancelChangesNothing) {
+  frame().markDirty();
+  ModalScript script;
+  script.dialog("Save Layout", wxID_CANCEL, TypeName("Unwanted"));
+  save();
+  EXPECT_TRUE(frame().dirty());
+  EXPECT_EQ(frame().currentPath(), "");
+  EXPECT_EQ(title(), "Vantrel v1.5 by Kelmor *");
+  EXPECT_TRUE(std::filesystem::is_empty(folders_.store) ||
+              !std::filesystem::exists(inStore("Unwanted.vtl")));
+}
+
+TEST_F(Save, AsUnderTheSameNameAsksToReplaceTheFileThatIsOpen) {
+  saveUnder("One");
+  ModalScript script;
+  std::string offered;
+  script.dialog("Save Layout", wxID_OK, TypeName("One", &offered));
+  script.box("Confirm Replace", "A layout named \"One\" already exists.\n\nReplace it?",
+             kCautiousBox, wxID_YES);
+  saveAs();
+  EXPECT_EQ(offered, "One");
+  EXPECT_TRUE(script.finished());
+}
+
+TEST_F(Save, AnswerOtherThanYesToReplaceChangesNothing) {
+  WriteFileText(inStore("Taken.vtl"), "old");
+  saveUnder("One");
+  frame().markDirty();
+  ModalScript script;
+  script.dialog("Save Layout", wxID_OK, TypeName("Taken"));
+  script.box("Confirm Replace", "A layout named \"Taken\" already exists.\n\nReplace it?",
+             kCautiousBox, wxID_NO);
+  saveAs();
+  EXPECT_EQ(ReadFileText(inStore("Taken.vtl")), "old");
+  EXPECT_EQ(frame().currentPath(), inStore("One.vtl"));
+  EXPECT_EQ(frame().layoutName(), "One");
+  EXPECT_TRUE(frame().dirty());
+}
+
+TEST_F(Save, ANameWithASlashFailsAndStaysAsThePathAndDirty) {
+  frame().markDirty();
+  ModalScript script;
+  script.dialog("Save Layout", wxID_OK, TypeName("north/south"));
+  script.box("Save Failed", "Cannot open file: " + inStore("north/south.vtl"), kErrorBox, wxID_OK);
+  save();
+  EXPECT_EQ(frame().currentPath(), inStore("north/south.vtl"));
+  EXPECT_TRUE(frame().dirty());
+  EXPECT_TRUE(script.finished());
+}
+
+TEST_F(Save, AFullDiskIsReportedAndTheLayoutStaysDirty) {
+  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no device that is always full";
+  std::filesystem::create_symlink("/dev/full", inStore("Full.vtl"));
+  frame().markDirty();
+  ModalScript script;
+  script.dialog("Save Layout", wxID_OK, TypeName("Full"));
+  script.box("Confirm Replace", "A layout named \"Full\" already exists.\n\nReplace it?",
+             kCautiousBox, wxID_YES);
+  script.box("Save Failed", "Cannot write file: " + inStore("Full.vtl"), kErrorBox, wxID_OK);
+  save();
+  EXPECT_TRUE(frame().dirty());
+}
+
+TEST_F(Save, ConfirmDiscardAsksNothingOfACleanLayout) {
+  ModalScript none;
+  EXPECT_TRUE(frame().ConfirmDiscard());
+}
+
+TEST_F(Save, ConfirmDiscardWithYesReturnsWhatTheSavingDid) {
+  frame().markDirty();
+  ModalScript script;
+  script.box("Unsaved Changes", kUnsavedText, kUnsavedBox, wxID_YES);
+  script.dialog("Save Layout", wxID_OK, TypeName("Kept"));
+  EXPECT_TRUE(frame().ConfirmDiscard());
+  EXPECT_TRUE(std::filesystem::exists(inStore("Kept.vtl")));
+
+  frame().markDirty();
+  std::filesystem::remove(inStore("Kept.vtl"));
+  std::filesystem::create_directory(inStore("Kept.vtl"));  // a folder can't be written
+  script.box("Unsaved Changes", kUnsavedText, kUnsavedBox, wxID_YES);
+  script.box("Save Failed", "Cannot open file: " + inStore("Kept.vtl"), kErrorBox, wxID_OK);
+  EXPECT_FALSE(frame().ConfirmDiscard());
+}
+
+TEST_F(Save, ConfirmDiscardWithNoGoesOn) {
+  frame().markDirty();
+  ModalScript script;
+  script.box("Unsaved Changes", kUnsavedText, kUnsavedBox, wxID_NO);
+  EXPECT_TRUE(frame().ConfirmDiscard());
+  EXPECT_TRUE(frame().dirty());
+}
+
+TEST_F(Save, CancelInTheUnsavedBoxLeavesEverythingAsItWas) {
+  saveUnder("One");
+  addPiece();
+  frame().markDirty();
+  WriteFileText(inStore("Other.vtl"), LayoutText("Other"));
+  const std::string before = title();
+  for (const int id : {5002, 5001, 5000, 5006}) {
+    ModalScript script;
+    script.box("Unsaved Changes", kUnsavedText, kUnsavedBox, wxID_CANCEL);
+    command(id);
+    EXPECT_TRUE(script.finished()) << id;
+    EXPECT_EQ(plan().pieces.size(), 1u) << id;
+    EXPECT_TRUE(plan().undoHistory.empty()) << id;
+    EXPECT_TRUE(frame().dirty()) << id;
+    EXPECT_EQ(frame().currentPath(), inStore("One.vtl")) << id;
+    EXPECT_EQ(title(), before) << id;
+  }
+  EXPECT_EQ(before, "Vantrel v1.5 by Kelmor - One *");
+}
+
+TEST_F(Save, ARefusedNameInTheSaveDialogCountsAsCancel) {
+  addPiece();
+  frame().markDirty();
+  ModalScript script;
+  script.box("Unsaved Changes", kUnsavedText, kUnsavedBox, wxID_YES);
+  script.dialog("Save Layout", wxID_CANCEL);
+  command(5002);
+  EXPECT_EQ(plan().pieces.size(), 1u);
+  EXPECT_TRUE(frame().dirty());
+
+  WriteFileText(inStore("Taken.vtl"), "old");
+  script.box("Unsaved Changes", kUnsavedText, kUnsavedBox, wxID_YES);
+  script.dialog("Save Layout", wxID_OK, TypeName("Taken"));
+  script.box("Confirm Replace", "A layout named \"Taken\" already exists.\n\nReplace it?",
+             kCautiousBox, wxID_NO);
+  command(5002);
+  EXPECT_EQ(plan().pieces.size(), 1u);
+  EXPECT_EQ(title(), "Vantrel v1.5 by Kelmor *");
+}
+
+TEST_F(Save, ClosingADirtyFrameAsksAndStaysOnCancel) {
+  frame().markDirty();
+  ModalScript script;
+  script.box("Unsaved Changes", kUnsavedText, kUnsavedBox, wxID_CANCEL);
+  EXPECT_FALSE(frame().Close(false));
+  EXPECT_FALSE(frame().IsBeingDeleted());
+}
+
+TEST_F(Save, ClosingACleanFrameDestroysIt) {
+  ModalScript none;
+  wxWeakRef<MainFrame> weak(&frame());
+  EXPECT_TRUE(frame().Close(false));
+  wxTheApp->ProcessIdle();
+  if (!weak) frame_ = nullptr;
+  EXPECT_EQ(weak.get(), nullptr);
+}
+
+TEST_F(Save, AForcedCloseDoesNotAsk) {
+  frame().markDirty();
+  ModalScript none;
+  wxWeakRef<MainFrame> weak(&frame());
+  frame().Close(true);
+  wxTheApp->ProcessIdle();
+  if (!weak) frame_ = nullptr;
+  EXPECT_EQ(weak.get(), nullptr);
+}
+
+}  // namespace
+}  // namespace vantrel
