@@ -128,6 +128,12 @@ TEST(ContentsTapes, ThePlateIsMovedInWorldMillimetres) {
   EXPECT_EQ(text[0].points, Points({{310, 130}}));
 }
 
+TEST(ContentsTapes, ATapeToNowhereHasNoLength) {
+  const auto calls = Painted(WithTape({std::nan(""), 100}, {200, 100}));
+  EXPECT_EQ(OfOp(calls, DrawOp::line).size(), 1u);
+  EXPECT_EQ(OfOp(calls, DrawOp::roundedRectangle).size(), 0u);
+}
+
 TEST(ContentsTapes, TheLengthIsTheWorldDistanceInTheUnitsShown) {
   Layout layout = WithTape({100, 100}, {400, 500});
   layout.units = kCentimetres;

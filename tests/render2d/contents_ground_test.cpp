@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+
 #include "tests/render2d/contents_fixture.h"
 
 namespace vantrel {
@@ -104,6 +107,13 @@ TEST(ContentsGround, ABaseboardEdgeOf9Point9MmHasNoLabelAndAShapeEdgeOf9Point9Mm
   EXPECT_EQ(Texts(Painted(layout), "10 mm").size(), 2u);
 }
 
+TEST(ContentsGround, AnEdgeToNowhereHasNoLength) {
+  // Its label would come to lie in the corner of the window, since its place is no number.
+  Layout layout = PlainPlan();
+  layout.baseboard = {{0, 0}, {std::numeric_limits<double>::infinity(), 0}, {200, 100}};
+  EXPECT_EQ(OfOp(Painted(layout, {1.0, 50.0, 60.0}), DrawOp::roundedRectangle).size(), 1u);
+}
+
 TEST(ContentsGround, DecksLieLowestFirstAndWithoutLabels) {
   Layout layout = PlainPlan();
   layout.levels = {DeckLevel(1, 200), DeckLevel(2, 0), DeckLevel(3, 100)};
@@ -119,6 +129,19 @@ TEST(ContentsGround, DecksLieLowestFirstAndWithoutLabels) {
   EXPECT_EQ(polygons[0].brush, SolidBrush({235, 220, 190}));
   EXPECT_EQ(polygons[0].pen, kBoardPen);
   EXPECT_EQ(OfOp(calls, DrawOp::text).size(), 0u);
+}
+
+TEST(ContentsGround, ADeckWhoseHeightIsNoNumberLiesAtZero) {
+  Layout layout = PlainPlan();
+  const double heights[] = {5.0, std::nan(""), 1.0, -1.0};
+  for (int i = 0; i < 4; ++i) {
+    layout.levels.push_back(DeckLevel(i + 1, heights[i]));
+    layout.levels.back().outline = Outline(0, 0, 100.0 * (i + 1), 100);
+  }
+  std::vector<int> widths;
+  for (const DrawCall& deck : OfOp(Painted(layout), DrawOp::polygon))
+    widths.push_back(deck.points[1].x);
+  EXPECT_EQ(widths, (std::vector<int>{400, 200, 300, 100}));
 }
 
 TEST(ContentsGround, ADeckWithTrackColourMixesItWithTwoPartsOfTheBaseboard) {
@@ -184,6 +207,15 @@ TEST(ContentsGround, TheDefaultGridAndItsCrossVanishBelowScale0Point1875AndAbove
   EXPECT_TRUE(HasGrid(0.1875));
   EXPECT_TRUE(HasGrid(12.5));
   EXPECT_FALSE(HasGrid(12.51));
+}
+
+TEST(ContentsGround, FarFromTheOriginTheGridEnds) {
+  // There neighbouring lines can't be told apart any more, and where they start is left to chance.
+  Layout layout = PlainPlan();
+  layout.gridVisible = true;
+  for (int i = 1; i <= 50; ++i)
+    for (const double far : {1e299, -1e299, 3e17, -3e17})
+      EXPECT_LT(Painted(layout, {0.4, i * far, i * far}, {100, 70}).size(), 20u) << i * far;
 }
 
 TEST(ContentsGround, AGridSwitchedOffHasNoCrossEither) {

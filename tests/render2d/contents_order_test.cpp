@@ -227,6 +227,16 @@ TEST(ContentsOrder, APortalOnAHiddenLevelStaysHidden) {
   EXPECT_NE(FirstPlace(calls, Near(2000 * kScale, 800 * kScale)), kNowhere);
 }
 
+TEST(ContentsOrder, ATunnelThatHasLostItsPortalsMakesAPortalOfNothing) {
+  Layout layout = WithPortals();
+  layout.tunnels[0].portalA = kNone;
+  layout.tunnels[0].portalB = kNone;
+  layout.scenery[0].id = kNone;
+  const auto calls = Painted(layout, {kScale, 0.0, 0.0});
+  EXPECT_LT(LastPlace(calls, Near(800 * kScale, 800 * kScale)),
+            FirstPlace(calls, IsFilled({11, 0, 0})));
+}
+
 TEST(ContentsOrder, UnknownSceneryIsSkipped) {
   Layout layout = WithPortals();
   for (SceneryItem& item : layout.scenery) item.item = "no such item";

@@ -258,6 +258,15 @@ TEST(ContentsView, ANameBeyondAsciiIsMeasuredInItsOwnFontWhateverTheDeviceHas) {
   EXPECT_EQ(Texts(Painted(layout, view, kWindow), layout.shapes[1].label).size(), 1u);
 }
 
+TEST(ContentsView, ALabelOfSeveralLinesIsSeenByItsLastOne) {
+  Layout layout = PlainPlan();
+  // Four lines of 22 units from y = -75 on.
+  layout.labels.push_back({.id = 1, .text = "Gleis 1\nGleis 2\nGleis 3\nGleis 4", .y = -75});
+  EXPECT_EQ(Painted(layout, kOneToOne, kWindow).size(), 2u);
+  layout.labels[0].y = -300;
+  EXPECT_EQ(Painted(layout, kOneToOne, kWindow).size(), 1u);
+}
+
 // Pushes what `layout` shows across each side of the window until only its outermost pixel is left
 // inside. `x` and `y` move the plan's only thing.
 template <typename Move>
