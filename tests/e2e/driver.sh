@@ -56,8 +56,9 @@ picture() { import -window root "$output/$1.png" 2>/dev/null; }
 # pixels COLOUR: every pixel of that colour on the screen, as "x y" lines.
 pixels() {
   import -window root "$store/screen.png"
-  convert "$store/screen.png" -fill black +opaque "$1" -fill white -opaque "$1" \
-    -threshold 50% txt:- | awk -F'[,:]' '/#FFFFFF/ {print $1, $2}'
+  # Of a picture that is transparent elsewhere this format names only the pixels left.
+  convert "$store/screen.png" -alpha set -fill none +opaque "$1" sparse-color:- | tr ' ' '\n' |
+    awk -F, '/^[0-9]/ {print $1, $2}'
 }
 
 # find_canvas: sets canvas_x, canvas_y to the canvas's top left corner on the screen. At the start

@@ -144,3 +144,19 @@ test_a_broken_file_is_named_and_ends_the_program_in_order() {
   grep -rqs 'Broken.vtl' "$store/home" || { problem="the log doesn't name the file"; return 1; }
   grep -rqs 'invalid stod argument' "$store/home" || { problem="the log doesn't say why"; return 1; }
 }
+
+test_plus_and_minus_zoom_the_canvas_but_belong_to_a_text_field() {
+  local marks_before marks_zoomed
+  # A click on empty canvas gives it the focus.
+  move $((canvas_x + 300)) $((canvas_y + 300))
+  click
+  marks_before=$(pixels '#C85050')
+  key plus
+  marks_zoomed=$(pixels '#C85050')
+  [ "$marks_before" != "$marks_zoomed" ] || { problem="plus doesn't zoom in"; return 1; }
+  key KP_Subtract
+  expect "marks after plus and minus" "$marks_before" "$(pixels '#C85050')" || return 1
+  save_as "A+B-C" || return 1
+  [ -f "$store/A+B-C.vtl" ] || { problem="the name lost its signs"; return 1; }
+  expect "marks after typing a name" "$marks_before" "$(pixels '#C85050')" || return 1
+}
