@@ -57,7 +57,7 @@ picture() { import -window root "$output/$1.png" 2>/dev/null; }
 pixels() {
   import -window root "$store/screen.png"
   # Of a picture that is transparent elsewhere this format names only the pixels left.
-  convert "$store/screen.png" -alpha set -fill none +opaque "$1" sparse-color:- | tr ' ' '\n' |
+  convert "$store/screen.png" -alpha set -channel RGBA -fill none +opaque "$1" sparse-color:- | tr ' ' '\n' |
     awk -F, '/^[0-9]/ {print $1, $2}'
 }
 
