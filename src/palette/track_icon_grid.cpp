@@ -96,6 +96,10 @@ void TrackIconGrid::hover(int row) {
 
 void TrackIconGrid::onPaint(wxPaintEvent&) {
   wxAutoBufferedPaintDC dc(this);
+  paintOn(dc);
+}
+
+void TrackIconGrid::paintOn(wxDC& dc) {
   DoPrepareDC(dc);
   const int bandTop = GetViewStart().y * kScrollStep;
   paintGrid(dc, layout_, rows_,

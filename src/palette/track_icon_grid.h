@@ -11,6 +11,8 @@
 #include "palette/grid_layout.h"
 #include "render2d/render_context.h"
 
+class wxDC;
+
 namespace vantrel {
 
 // Whom the grid tells what the user does with its rows. Keys are those of the rows, never empty.
@@ -44,6 +46,9 @@ class TrackIconGrid : public wxScrolledWindow {
   int rowOfPart(std::string_view partNumber) const;
   int selectedRow() const { return selectedRow_; }  // -1 for none
   int hoverRow() const { return hoverRow_; }        // -1 for none
+
+  // Paints what the window shows at present on a context whose origin is the window's corner.
+  void paintOn(wxDC& dc);
 
  private:
   void append(GridRow row);

@@ -94,8 +94,16 @@ class CanvasWindow : public testing::Test {
     event.m_wheelRotation = rotation;
     return canvas->HandleWindowEvent(event);
   }
-  bool key(wxEventType type, int code, wxChar unicode = 0) {
+  bool middle(wxEventType type, int x, int y, bool down) {
+    wxMouseEvent event(type);
+    event.SetEventObject(canvas);
+    event.SetPosition({x, y});
+    event.SetMiddleDown(down);
+    return canvas->HandleWindowEvent(event);
+  }
+  bool key(wxEventType type, int code, wxChar unicode = 0, bool ctrl = false) {
     wxKeyEvent event(type);
+    event.SetControlDown(ctrl);
     event.SetEventObject(canvas);
     event.m_keyCode = code;
     event.m_uniChar = unicode;
@@ -168,6 +176,37 @@ TEST_F(CanvasWindow, QuickRightPressesTurnAStepEach) {
   EXPECT_EQ(canvas->state().paletteDrag.rotation, 60.0);
 }
 
+TEST_F(CanvasWindow, TheMiddleButtonPansAlsoWhenPressedTwiceInQuickSuccession) {
+  EXPECT_TRUE(middle(wxEVT_MIDDLE_DOWN, 100, 100, true));
+  EXPECT_TRUE(canvas->HasCapture());
+  middle(wxEVT_MOTION, 110, 120, true);
+  EXPECT_TRUE(middle(wxEVT_MIDDLE_UP, 110, 120, false));
+  EXPECT_FALSE(canvas->HasCapture());
+  EXPECT_TRUE(middle(wxEVT_MIDDLE_DCLICK, 110, 120, true));
+  middle(wxEVT_MOTION, 115, 120, true);
+  middle(wxEVT_MIDDLE_UP, 115, 120, false);
+  middle(wxEVT_MOTION, 300, 300, false);
+  EXPECT_EQ(canvas->view().offsetX, 75.0);
+  EXPECT_EQ(canvas->view().offsetY, 80.0);
+}
+
+TEST_F(CanvasWindow, ARightReleaseGivesTheMouseBackAndKeepsTheDrag) {
+  canvas->beginPieceDrag("24188");
+  mouse(wxEVT_RIGHT_DOWN, 100, 100);
+  ASSERT_TRUE(canvas->HasCapture());
+  EXPECT_FALSE(mouse(wxEVT_RIGHT_UP, 100, 100));
+  EXPECT_FALSE(canvas->HasCapture());
+  EXPECT_TRUE(canvas->state().paletteDrag.active);
+}
+
+TEST_F(CanvasWindow, APressTakesTheKeyboardFocus) {
+  auto* other = new wxWindow(frame, wxID_ANY);
+  other->SetFocus();
+  ASSERT_EQ(wxWindow::FindFocus(), other);
+  mouse(wxEVT_LEFT_DOWN, 100, 100, true);
+  EXPECT_EQ(wxWindow::FindFocus(), canvas);
+}
+
 TEST_F(CanvasWindow, TheWheelZoomsOrTurns) {
   EXPECT_TRUE(mouse(wxEVT_MOUSEWHEEL, 60, 60, false, 120));
   EXPECT_NEAR(canvas->view().scale, 0.46, 1e-12);
@@ -200,6 +239,8 @@ TEST_F(CanvasWindow, RAndEscReachTheDrag) {
   canvas->beginPieceDrag("24188");
   EXPECT_TRUE(key(wxEVT_KEY_DOWN, 'R'));
   EXPECT_EQ(canvas->state().paletteDrag.rotation, 30.0);
+  EXPECT_FALSE(key(wxEVT_KEY_DOWN, 'R', 0, true));  // a chord with Ctrl
+  EXPECT_EQ(canvas->state().paletteDrag.rotation, 30.0);
   EXPECT_TRUE(key(wxEVT_KEY_DOWN, WXK_ESCAPE));
   EXPECT_FALSE(canvas->state().paletteDrag.active);
   EXPECT_FALSE(canvas->HasCapture());
@@ -217,6 +258,16 @@ TEST_F(CanvasWindow, SpaceHeldWithTheLeftButtonPans) {
   mouse(wxEVT_MOTION, 100, 100, true);
   mouse(wxEVT_MOTION, 200, 200, true);
   EXPECT_EQ(canvas->view().offsetX, 90.0);
+}
+
+TEST_F(CanvasWindow, SpaceIsForgottenWithTheFocusSinceItsReleaseGoesElsewhere) {
+  key(wxEVT_KEY_DOWN, WXK_SPACE);
+  wxFocusEvent lost(wxEVT_KILL_FOCUS, canvas->GetId());
+  lost.SetEventObject(canvas);
+  canvas->HandleWindowEvent(lost);
+  mouse(wxEVT_MOTION, 100, 100, true);
+  mouse(wxEVT_MOTION, 130, 110, true);
+  EXPECT_EQ(canvas->view().offsetX, 60.0);
 }
 
 TEST_F(CanvasWindow, AMouseTakenAwayLeavesTheDragAndTheNextPressDrops) {
@@ -281,6 +332,11 @@ TEST_F(CanvasWindow, OffersTheViewToTheFrame) {
   canvas->zoomCentred(1.25);
   EXPECT_NEAR(canvas->view().scale, 0.5, 1e-12);
   canvas->zoomToFit(false);
+  EXPECT_EQ(canvas->view(), ViewTransform{});
+  workspace.document.baseboard = {{0.0, 0.0}, {9000.0, 0.0}, {9000.0, 9000.0}};
+  canvas->zoomToFit(false);
+  EXPECT_LT(canvas->view().scale, 0.1);
+  canvas->zoomToFit(true);
   EXPECT_EQ(canvas->view(), ViewTransform{});
   canvas->showGrid(false);
   EXPECT_FALSE(workspace.document.gridVisible);

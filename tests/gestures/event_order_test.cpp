@@ -57,20 +57,31 @@ TEST_F(EventOrder, KeysThatNothingTakesAreLeftToTheRest) {
 TEST_F(EventOrder, ThePaintGoesFromContentsOverRulersToWhatHangsAtThePointer) {
   layout.gridVisible = false;
   state.view = {.scale = 1.0, .offsetX = 0.0, .offsetY = 0.0};
+  lay("24188", {5.0, 5.0, 0.0});
   beginPieceDrag(context, "24188");
-  move(2, 2);  // under the rulers' bands
+  move(300, 200);
   const std::unique_ptr<RecordingDC> dc = paint();
   const std::vector<DrawCall>& calls = dc->calls();
-  std::size_t lastBand = 0;
-  std::size_t firstGhost = calls.size();
+  const std::size_t none = calls.size();
+  std::size_t lastBed = none;
+  std::size_t firstBand = none;
+  std::size_t lastBand = none;
+  std::size_t firstGhost = none;
   for (std::size_t i = 0; i < calls.size(); ++i) {
-    if (calls[i].brush == SolidBrush({240, 240, 240})) lastBand = i;
+    // The bed of the piece that lies in the plan.
+    if (calls[i].brush == SolidBrush({210, 210, 205})) lastBed = i;
+    if (calls[i].brush == SolidBrush({240, 240, 240})) {
+      if (firstBand == none) firstBand = i;
+      lastBand = i;
+    }
     // The ghost's green bed.
-    if (calls[i].brush == SolidBrush({200, 225, 200}) && firstGhost == calls.size()) firstGhost = i;
+    if (calls[i].brush == SolidBrush({200, 225, 200}) && firstGhost == none) firstGhost = i;
   }
-  EXPECT_GT(lastBand, 0u);
-  ASSERT_LT(firstGhost, calls.size());
-  EXPECT_GT(firstGhost, lastBand);
+  ASSERT_NE(lastBed, none);
+  ASSERT_NE(lastBand, none);
+  ASSERT_NE(firstGhost, none);
+  EXPECT_LT(lastBed, firstBand);
+  EXPECT_LT(lastBand, firstGhost);
 }
 
 TEST_F(EventOrder, TheHelixPreviewIsTwoRingsAndACrossAtItsMiddle) {

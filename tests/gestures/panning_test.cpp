@@ -148,6 +148,15 @@ TEST_F(Panning, TheMiddleButtonPansUnderAPieceThatHangsAtThePointer) {
   EXPECT_TRUE(state.paletteDrag.active);
 }
 
+TEST_F(Panning, SpaceStartsNothingWhileTheMiddleButtonPans) {
+  pressMiddle(500, 300);
+  held.leftDown = true;
+  held.spaceDown = true;
+  EXPECT_TRUE(move(510, 300));
+  EXPECT_FALSE(state.spacePan.active);
+  expectOffsets(70.0, 60.0);
+}
+
 TEST_F(Panning, NeitherPanTouchesTheDocument) {
   lay("24188", {0.0, 0.0, 0.0});
   const std::vector<Piece> before = layout.pieces;

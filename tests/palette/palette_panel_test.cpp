@@ -398,6 +398,16 @@ TEST_F(PaletteTest, TheTooltipIsNotSetAnewWhileThePointerStaysOnARow) {
   EXPECT_EQ(grid->GetToolTipText(), "24172 - 171.7mm");
 }
 
+TEST_F(PaletteTest, APressLetsTheNextMotionSetTheTooltipAnew) {
+  const wxPoint at = pointOnRow(rowOfKey("24188"));
+  SendMouse(*grid, wxEVT_MOTION, at);
+  grid->SetToolTip("a mark");
+  SendMouse(*grid, wxEVT_LEFT_DOWN, at, true);
+  SendMouse(*grid, wxEVT_LEFT_UP, at);
+  SendMouse(*grid, wxEVT_MOTION, at);
+  EXPECT_EQ(grid->GetToolTipText(), "24188 - 188.3mm");
+}
+
 TEST_F(PaletteTest, TheTooltipIsThatOfTheNewSystemsPartAfterAChange) {
   const wxPoint first = pointOnRow(1);
   SendMouse(*grid, wxEVT_MOTION, first);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "tests/palette/palette_fixture.h"
+#include "tests/support/recording_dc.h"
 
 namespace vantrel {
 namespace {
@@ -243,6 +244,24 @@ TEST_F(Grid, HitsRowsWhereTheyAreAfterScrolling) {
   ASSERT_EQ(grid->GetViewStart(), wxPoint(0, 14));
   press({100, 13});
   EXPECT_EQ(grid->selectedRow(), kRowKit);
+}
+
+TEST_F(Grid, PaintsTheRowsThatAreInViewAfterScrolling) {
+  // 400 rows of 22 below the kit's, which starts at 152: row i of them starts at 174 + 22 * i.
+  for (int i = 0; i < 400; ++i) grid->AddTextRow(wxString::Format("%d", i), "@helix:kit");
+  frame->Show();
+  wxTheApp->SafeYield(nullptr, false);
+  grid->Scroll(0, 100);
+  ASSERT_EQ(grid->GetViewStart(), wxPoint(0, 100));
+  RecordingDC dc({300, 400});
+  grid->paintOn(dc);
+  // 1000 is the first y in view: row 37 ends at 1010 and row 36 at 988. 1399 is the last: row 55
+  // starts at 1384 and row 56 at 1406.
+  const std::vector<DrawCall> texts = dc.callsOf(DrawOp::text);
+  ASSERT_EQ(texts.size(), 19u);
+  EXPECT_EQ(texts.front().text, "  37");
+  EXPECT_EQ(texts.back().text, "  55");
+  EXPECT_EQ(dc.GetDeviceOrigin(), wxPoint(0, -1000));
 }
 
 }  // namespace

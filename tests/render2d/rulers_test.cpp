@@ -83,6 +83,11 @@ TEST(Rulers, TicksAndLabelsLeftOfThe20PixelBandAreNotDrawn) {
   EXPECT_EQ(Texts(calls, "0").size(), 0u);
 }
 
+TEST(Rulers, ATickAtTheFarEdgeIsOutside) {
+  EXPECT_EQ(TopTicks(Rulers({1.0, 100.0, 50.0})), (std::vector<int>{100, 200}));
+  EXPECT_EQ(TopTicks(Rulers({1.0, 99.0, 50.0})), (std::vector<int>{99, 199, 299}));
+}
+
 TEST(Rulers, LeftOfTheOriginTheLabelsAreNegative) {
   const auto calls = Rulers({1.0, 230.0, 50.0});
   EXPECT_EQ(TopTicks(calls), (std::vector<int>{30, 130, 230}));
