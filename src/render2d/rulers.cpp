@@ -48,15 +48,12 @@ struct Ticks {
 };
 
 Ticks TicksAlong(double offset, double scale, std::int32_t units, int extent) {
-  // Beyond this, whole numbers of steps can't be told apart.
-  constexpr double kLastNumber = 9e15;
   const double step = rulerStep(units, scale);
   const double stepMm = step * MillimetresPerUnit(units);
   const double pitch = stepMm * scale;
-  const double first = std::floor(-offset / pitch);
   // Ticks less than a device unit apart would only paint the band full.
-  if (!(pitch >= 1.0) || !(std::abs(first) < kLastNumber)) return {};
-  return {step, stepMm, first, DeviceInt(extent / pitch) + 2};
+  if (!(pitch >= 1.0)) return {};
+  return {step, stepMm, std::floor(-offset / pitch), DeviceInt(extent / pitch) + 2};
 }
 
 void DrawBands(wxDC& dc, DeviceSize client) {

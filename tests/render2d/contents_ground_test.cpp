@@ -108,10 +108,13 @@ TEST(ContentsGround, ABaseboardEdgeOf9Point9MmHasNoLabelAndAShapeEdgeOf9Point9Mm
 }
 
 TEST(ContentsGround, AnEdgeToNowhereHasNoLength) {
-  // Its label would come to lie in the corner of the window, since its place is no number.
+  // Its label would come to lie in the corner of the window, since its middle is no number.
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
   Layout layout = PlainPlan();
-  layout.baseboard = {{0, 0}, {std::numeric_limits<double>::infinity(), 0}, {200, 100}};
-  EXPECT_EQ(OfOp(Painted(layout, {1.0, 50.0, 60.0}), DrawOp::roundedRectangle).size(), 1u);
+  layout.baseboard = {{-kInfinity, 50}, {kInfinity, 50}, {200, 100}, {100, 100}};
+  const auto calls = Painted(layout, {1.0, 50.0, 60.0});
+  EXPECT_EQ(OfOp(calls, DrawOp::roundedRectangle).size(), 1u);
+  EXPECT_EQ(Texts(calls, "100 mm").size(), 1u);
 }
 
 TEST(ContentsGround, DecksLieLowestFirstAndWithoutLabels) {

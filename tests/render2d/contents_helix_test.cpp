@@ -110,9 +110,12 @@ TEST(ContentsHelix, RingsHaveNeitherNumbersNorDots) {
 TEST(ContentsHelix, OneSelectedStubSelectsTheRings) {
   Layout layout = HelixWithTrack();
   EXPECT_EQ(Filled(Painted(layout, kSmall), kSelectedFill).size(), 0u);
-  layout.pieces[1].sel = true;
-  const auto calls = Painted(layout, kSmall);
-  EXPECT_EQ(Filled(calls, kSelectedFill).size(), 61u);  // the stub itself as well
+  for (const std::size_t stub : {0u, 1u}) {
+    layout.pieces[0].sel = stub == 0;
+    layout.pieces[1].sel = stub == 1;
+    // The stub itself as well.
+    EXPECT_EQ(Filled(Painted(layout, kSmall), kSelectedFill).size(), 61u) << stub;
+  }
 }
 
 TEST(ContentsHelix, TheRingsBelongToTheLevelOfTheFirstStub) {
