@@ -50,8 +50,10 @@ Layout MixedPlan(int count) {
   return layout;
 }
 
-// The view that shows the whole plan, or the `share` of it around its middle.
+// The view that fits the whole plan with its margins, or the one whose window covers `share` of the
+// plan's area around its middle.
 ViewTransform ViewOf(const Layout& layout, double share) {
+  constexpr double kMargins = 160.0;
   double maxX = 0.0;
   double maxY = 0.0;
   for (const Piece& piece : layout.pieces) {
@@ -59,7 +61,9 @@ ViewTransform ViewOf(const Layout& layout, double share) {
     maxY = std::max(maxY, piece.y);
   }
   ViewTransform view;
-  view.scale = std::min((kSize.width - 160) / maxX, (kSize.height - 160) / maxY) / std::sqrt(share);
+  view.scale = share < 1.0
+                   ? std::sqrt(kSize.width * kSize.height / (share * maxX * maxY))
+                   : std::min((kSize.width - kMargins) / maxX, (kSize.height - kMargins) / maxY);
   view.offsetX = kSize.width / 2.0 - view.scale * maxX / 2.0;
   view.offsetY = kSize.height / 2.0 - view.scale * maxY / 2.0;
   return view;
