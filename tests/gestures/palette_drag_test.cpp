@@ -37,6 +37,7 @@ TEST_F(PaletteDragging, AnUnknownOrEmptyPartStartsNothing) {
 
 TEST_F(PaletteDragging, ASecondDragStartsAfresh) {
   lay("24188", {0.0, 0.0, 0.0});
+  held.leftDown = true;
   beginPieceDrag(context, "24188");
   move(1900, 0);
   pressRight(1900, 0);
@@ -71,6 +72,18 @@ TEST_F(PaletteDragging, ALeftReleaseOnlyGivesTheMouseBack) {
   EXPECT_EQ(drag().at, (Vec2{70.0, 30.0}));
   EXPECT_TRUE(pressLeft(700, 300));
   EXPECT_EQ(layout.pieces.size(), 1u);
+}
+
+TEST_F(PaletteDragging, AMotionWithoutTheButtonGivesTheMouseBackToo) {
+  beginPieceDrag(context, "24188");
+  held.leftDown = true;
+  move(500, 300);
+  EXPECT_TRUE(host.captured);
+  // The button came up over the palette, and the palette was told.
+  held.leftDown = false;
+  move(510, 300);
+  EXPECT_FALSE(host.captured);
+  EXPECT_TRUE(drag().active);
 }
 
 TEST_F(PaletteDragging, AMouseTakenAwayLosesNothing) {

@@ -100,6 +100,17 @@ TEST_F(SceneryDragging, TheNextLeftPressDropsIt) {
   EXPECT_TRUE(layout.scenery.empty());
 }
 
+TEST_F(SceneryDragging, AMotionWithoutTheButtonGivesTheMouseBack) {
+  beginSceneryDrag(context, "car");
+  held.leftDown = true;
+  move(160, 100);
+  EXPECT_TRUE(host.captured);
+  held.leftDown = false;
+  move(170, 100);
+  EXPECT_FALSE(host.captured);
+  EXPECT_TRUE(drag().active);
+}
+
 TEST_F(SceneryDragging, AnItemUnknownAtTheDropJustEnds) {
   beginSceneryDrag(context, "car");
   state.sceneryDrag.item = "no such item";

@@ -18,4 +18,8 @@ bool isTurnKey(const KeyEvent& event) {
   return (event.code == 'R' || event.code == 'r') && !event.mods.ctrl && !event.mods.alt;
 }
 
+void releaseMouseOnceButtonIsUp(CanvasContext& context, const PointerEvent& motion) {
+  if (!motion.leftDown) context.host.releaseMouse();
+}
+
 }  // namespace vantrel

@@ -144,6 +144,7 @@ bool dropDraggedPiece(CanvasContext& context, const PointerEvent&) {
 bool paletteDragMotion(CanvasContext& context, const PointerEvent& event) {
   PaletteDrag& drag = context.state.paletteDrag;
   if (!drag.active) return false;
+  releaseMouseOnceButtonIsUp(context, event);
   drag.at = event.world;
   SearchSnap(context);
   context.host.repaint();

@@ -62,6 +62,7 @@ bool dropDraggedScenery(CanvasContext& context, const PointerEvent&) {
 bool sceneryDragMotion(CanvasContext& context, const PointerEvent& event) {
   SceneryDrag& drag = context.state.sceneryDrag;
   if (!drag.active) return false;
+  releaseMouseOnceButtonIsUp(context, event);
   drag.at = event.world;
   context.host.repaint();
   return true;
