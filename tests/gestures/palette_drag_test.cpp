@@ -275,6 +275,20 @@ TEST_F(PaletteDragging, PaintsTheGhostAndMarksTheEndItSnapsTo) {
   EXPECT_EQ(markers, 1);
 }
 
+TEST_F(PaletteDragging, TheGhostIsPaintedOverTheMarkedEnd) {
+  lay("24188", {0.0, 0.0, 0.0});
+  state.view = {.scale = 1.0, .offsetX = 100.0, .offsetY = 100.0};
+  beginPieceDrag(context, "24188");
+  move(300, 110);
+  bool marked = false;
+  bool ghostOverMarker = false;
+  for (const DrawCall& call : paint()->calls()) {
+    if (call.brush == SolidBrush({255, 220, 0})) marked = true;
+    if (call.brush == SolidBrush({200, 225, 200})) ghostOverMarker = marked;
+  }
+  EXPECT_TRUE(ghostOverMarker);
+}
+
 TEST_F(PaletteDragging, AFreeGhostHasNoMarkerAndLiesAtThePointer) {
   layout.gridVisible = false;
   state.view = {.scale = 1.0, .offsetX = 100.0, .offsetY = 100.0};
