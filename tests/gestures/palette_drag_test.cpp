@@ -282,7 +282,8 @@ TEST_F(PaletteDragging, TheGhostIsPaintedOverTheMarkedEnd) {
   move(300, 110);
   bool marked = false;
   bool ghostOverMarker = false;
-  for (const DrawCall& call : paint()->calls()) {
+  const std::unique_ptr<RecordingDC> dc = paint();
+  for (const DrawCall& call : dc->calls()) {
     if (call.brush == SolidBrush({255, 220, 0})) marked = true;
     if (call.brush == SolidBrush({200, 225, 200})) ghostOverMarker = marked;
   }
