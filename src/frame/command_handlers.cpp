@@ -6,20 +6,16 @@
 #include <cstdint>
 
 #include "canvas/canvas_panel.h"
+#include "canvas/gestures/view_navigation.h"
 #include "doc/layout_ops.h"
 #include "doc/undo.h"
 #include "frame/commands.h"
 #include "frame/experience_dialog.h"
 #include "frame/main_frame.h"
 #include "frame/message_boxes.h"
+#include "workspace/status_text.h"
 
 namespace vantrel {
-namespace {
-
-constexpr double kZoomInStep = 1.25;
-constexpr double kZoomOutStep = 0.8;
-
-}  // namespace
 
 void MainFrame::onPageSetup(wxCommandEvent&) {
   wxPageSetupDialog dialog(this, &pageSetupData_);
@@ -36,12 +32,14 @@ void MainFrame::onExit(wxCommandEvent&) {
 // saved, but the user has asked for another state.
 void MainFrame::onUndo(wxCommandEvent&) {
   Undo(layout_);
+  setStatus(kStatusPieces, PiecesText(layout_.pieces.size()));
   refreshViews();
   markDirty();
 }
 
 void MainFrame::onRedo(wxCommandEvent&) {
   Redo(layout_);
+  setStatus(kStatusPieces, PiecesText(layout_.pieces.size()));
   refreshViews();
   markDirty();
 }
@@ -54,11 +52,11 @@ void MainFrame::onSelectAll(wxCommandEvent&) {
 }
 
 void MainFrame::onZoomIn(wxCommandEvent&) {
-  canvas_->zoomCentred(kZoomInStep);
+  canvas_->zoomCentred(kZoomInCommand);
 }
 
 void MainFrame::onZoomOut(wxCommandEvent&) {
-  canvas_->zoomCentred(kZoomOutStep);
+  canvas_->zoomCentred(kZoomOutCommand);
 }
 
 void MainFrame::onZoomToFit(wxCommandEvent&) {

@@ -13,10 +13,10 @@
 #include "frame/menus.h"
 #include "frame/program_title.h"
 #include "frame/splash_dialog.h"
-#include "frame/status_text.h"
 #include "frame/store_folder.h"
 #include "frame/text.h"
 #include "properties/properties_panel.h"
+#include "workspace/status_text.h"
 
 namespace vantrel {
 namespace {
@@ -116,6 +116,7 @@ std::string MainFrame::status(StatusField field) const {
   return GetStatusBar() ? ToUtf8(GetStatusBar()->GetStatusText(field)) : std::string();
 }
 
+// Kits can be looked at in the palette, but not be placed yet.
 void MainFrame::placeHelix(std::string_view, const Pose&) {}
 
 std::string MainFrame::shownName() const {

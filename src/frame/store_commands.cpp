@@ -14,12 +14,12 @@
 #include "frame/message_boxes.h"
 #include "frame/open_dialog.h"
 #include "frame/program_title.h"
-#include "frame/status_text.h"
 #include "frame/store_folder.h"
 #include "frame/text.h"
 #include "io/layout_file.h"
 #include "palette/palette_panel.h"
 #include "properties/properties_panel.h"
+#include "workspace/status_text.h"
 
 namespace vantrel {
 namespace {

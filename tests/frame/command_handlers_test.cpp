@@ -96,8 +96,10 @@ TEST_F(CommandHandlers, UndoAndRedoStepThroughHistoryAndMarkTheLayoutChanged) {
   EXPECT_TRUE(plan().pieces.empty());
   EXPECT_TRUE(frame().dirty());
   EXPECT_EQ(title(), "Vantrel v1.5 by Kelmor *");
+  EXPECT_EQ(statusText(kStatusPieces), "Pieces: 0");
   command(2003);
   EXPECT_EQ(plan().pieces.size(), 1u);
+  EXPECT_EQ(statusText(kStatusPieces), "Pieces: 1");
 }
 
 TEST_F(CommandHandlers, UndoAndRedoMarkTheLayoutChangedEvenWithoutAHistory) {

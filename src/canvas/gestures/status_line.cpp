@@ -3,11 +3,10 @@
 #include <string>
 
 #include "doc/format_length.h"
+#include "workspace/status_text.h"
 
 namespace vantrel {
 namespace {
-
-constexpr const char* kGradeMark = "[ELEV]";
 
 std::string PositionText(Vec2 world, std::int32_t units) {
   return FormatLength(world.x, units) + ",  " + FormatLength(world.y, units);
@@ -21,19 +20,14 @@ bool showPointerPosition(CanvasContext& context, const PointerEvent& event) {
 }
 
 void showPieceCount(CanvasContext& context) {
-  context.host.setStatus(kStatusPieces, "Pieces: " + std::to_string(context.layout.pieces.size()));
+  context.host.setStatus(kStatusPieces, PiecesText(context.layout.pieces.size()));
 }
 
+// Leaves another text in place where there is nothing to say of grades.
 void showGradeRuns(const CanvasContext& context, wxDC&) {
   const std::string shown = context.host.status(kStatusMessage);
-  if (context.layout.gradeRuns.empty()) {
-    if (shown.starts_with(kGradeMark)) context.host.setStatus(kStatusMessage, "Ready");
-    return;
-  }
-  std::string text = kGradeMark;
-  for (const GradeRun& run : context.layout.gradeRuns)
-    text += " " + FormatFixed(run.deg, 1) + " deg";
-  text += "  (right-click piece to stop)";
+  if (context.layout.gradeRuns.empty() && !shown.starts_with(kGradeMark)) return;
+  const std::string text = ReadyText(context.layout);
   if (text != shown) context.host.setStatus(kStatusMessage, text);
 }
 

@@ -1,4 +1,4 @@
-#include "frame/status_text.h"
+#include "workspace/status_text.h"
 
 #include "doc/format_length.h"
 
@@ -6,7 +6,7 @@ namespace vantrel {
 
 std::string ReadyText(const Layout& layout) {
   if (layout.gradeRuns.empty()) return "Ready";
-  std::string text = "[ELEV]";
+  std::string text(kGradeMark);
   for (const GradeRun& run : layout.gradeRuns) text += " " + FormatFixed(run.deg, 1) + " deg";
   return text + "  (right-click piece to stop)";
 }

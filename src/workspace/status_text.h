@@ -3,10 +3,14 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "doc/layout.h"
 
 namespace vantrel {
+
+// How the first field begins while grade runs are in force.
+inline constexpr std::string_view kGradeMark = "[ELEV]";
 
 // "Ready", or the slopes of the grade runs in force.
 std::string ReadyText(const Layout& layout);
