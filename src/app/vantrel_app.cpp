@@ -4,6 +4,7 @@
 #include <exception>
 
 #include "app/services/app_log.h"
+#include "app/services/locale.h"
 #include "app/services/program_folders.h"
 #include "frame/rescue.h"
 #include "frame/startup.h"
@@ -21,6 +22,7 @@ VantrelApp::VantrelApp() {
 
 // The inherited OnInit only reads the command line, and there is none to read.
 bool VantrelApp::OnInit() {
+  SettleLocale();
   frame_ = StartUp(DefaultFolders());
   return frame_ != nullptr;
 }

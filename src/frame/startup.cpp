@@ -1,6 +1,5 @@
 #include "frame/startup.h"
 
-#include <clocale>
 #include <exception>
 #include <string>
 
@@ -28,8 +27,6 @@ MainFrame* TryToMake(const ProgramFolders& folders, const MakeMainFrame& make) {
 }  // namespace
 
 MainFrame* StartUp(const ProgramFolders& folders, const MakeMainFrame& make) {
-  // The toolkit starts the user's locale; numbers in files must not follow it.
-  std::setlocale(LC_NUMERIC, "C");
   OpenAppLog(folders.data);
   AppLog("=== Vantrel starting ===");
   AppLog("Built-in catalog loaded - " + std::to_string(catalog().pieceCount()) + " pieces");

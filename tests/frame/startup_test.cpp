@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <regex>
 #include <stdexcept>
 
@@ -145,12 +144,6 @@ TEST_F(StartUpTest, LogsAnUnknownExceptionOutOfTheFrameAndEnds) {
             "Built-in catalog loaded - 167 pieces\n"
             "Creating MainFrame...\n"
             "UNKNOWN EXCEPTION in MainFrame\n");
-}
-
-TEST_F(StartUpTest, KeepsNumbersIndependentOfTheUsersLocale) {
-  std::setlocale(LC_NUMERIC, "C.UTF-8");
-  start();
-  EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
 }
 
 }  // namespace
