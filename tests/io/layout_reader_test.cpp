@@ -291,6 +291,13 @@ TEST(LayoutReader, ABaseboardInTheFileReplacesTheOldOne) {
   EXPECT_TRUE(layout.baseboard.empty());
 }
 
+TEST(LayoutReader, AVertexOutsideABaseboardIsNotLookedAt) {
+  Layout layout;
+  layout.baseboard = {{9, 9}};
+  LoadOver(layout, "<vertex x=\"8\" y=\"8\"/>\n<vertex x=\"oops\"/>\n");
+  EXPECT_EQ(layout.baseboard, (std::vector<Vec2>{{9, 9}}));
+}
+
 TEST(LayoutReader, ReadsSceneryOnlyBetweenItsTags) {
   const std::string item = "<sceneryitem id=\"5\" item=\"oak\" x=\"1\" y=\"2\" heading=\"3\"/>\n";
   EXPECT_TRUE(Loaded(item).scenery.empty());

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "io/layout_file.h"
+#include "io/text_file.h"
 #include "tests/io/io_support.h"
 
 namespace vantrel {
@@ -267,6 +268,17 @@ TEST(UnreadableFile, LeavesTheLayoutUnchangedWhenItIsAFolder) {
   const testing::TempFolder folder;
   std::filesystem::create_directory(folder.path("plan.vtl"));
   ExpectCannotOpen(folder.path("plan.vtl"));
+}
+
+TEST(UnreadableFile, AFileThatIsLongerThanMeasuredIsReadToItsEnd) {
+  // These files are measured as empty and hold text.
+  const std::string path = "/proc/version";
+  if (!std::filesystem::exists(path)) GTEST_SKIP() << "no file of that kind";
+  ASSERT_EQ(std::filesystem::file_size(path), 0u);
+  FileBytes bytes;
+  EXPECT_EQ(ReadTextFile(path, bytes), "");
+  EXPECT_GT(bytes.size, 10u);
+  EXPECT_EQ(bytes.text(), testing::ReadBytes(path));
 }
 
 TEST(UnreadableFile, DoesNotWaitForAPipeOrReadADeviceWithoutEnd) {

@@ -112,7 +112,8 @@ TEST(LineTags, FindsEachTagAnywhereInTheLine) {
                       {"<covers ", Tag::kCovers},
                       {"<helix ", Tag::kHelix}};
   for (const Row& row : rows) {
-    for (const std::string& line : {std::string(row.text), "x<<" + std::string(row.text) + "y"}) {
+    const std::string tag = row.text;
+    for (const std::string& line : {tag, "<" + tag, "<a" + tag, "x<<" + tag + "y"}) {
       const TagSet tags = TagsIn(line);
       for (const Row& other : rows)
         EXPECT_EQ(tags.has(other.tag), row.tag == other.tag) << line << " / " << other.text;
