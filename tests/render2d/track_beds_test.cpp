@@ -89,6 +89,15 @@ TEST(ArcBed, ANegativeSweepBendsToTheLeft) {
   EXPECT_EQ(points[121], wxPoint(1000, 994));
 }
 
+TEST(ArcBed, ASweepOfNothingAndAVerySmallOneCountAsBentToTheRight) {
+  for (const double sweep : {0.0, 0.5}) {
+    const Points points = ArcBedPolygon({}, ZCurve(100.0, sweep), kPlainView, 1);
+    ASSERT_EQ(points.size(), 34u);
+    EXPECT_EQ(points[0], wxPoint(1000, 994)) << sweep;
+    EXPECT_EQ(points[33], wxPoint(1000, 1006)) << sweep;
+  }
+}
+
 TEST(ArcBed, StandsAtItsPose) {
   // Turned by 90 degrees a local (lx, ly) lies at (200 - ly, 300 + lx): the outer end (106, 100)
   // at (100, 406).
@@ -120,6 +129,27 @@ TEST(Branch, IsCutWhereItWouldRunPastTheTurnoutsLength) {
   const PieceDef left =
       makeTurnout(TrackSystem::MarklinZ, "left", "", PieceKind::LeftTurnout, 110.0, 490.0, 13.0);
   EXPECT_EQ(OuterEnd(ArcBedPolygon({}, left, kPlainView, 2)), wxPoint(1111, 993));
+}
+
+TEST(Branch, IsNotCutWhereTheTurnoutIsLongerThanItsRadius) {
+  // Beyond the radius every angle up to 90 degrees fits. The outer end at 60 degrees:
+  // (106 * 0.866, 100 - 53) = (91.8, 47).
+  const PieceDef def =
+      makeTurnout(TrackSystem::MarklinZ, "t", "", PieceKind::RightTurnout, 150.0, 100.0, 60.0);
+  EXPECT_EQ(OuterEnd(ArcBedPolygon({}, def, kPlainView, 2)), wxPoint(1092, 1047));
+}
+
+TEST(Branch, IsCutFromARadiusAbove1MmOn) {
+  PieceDef def = Sketch(PieceKind::RightTurnout, 3);
+  def.system = TrackSystem::MarklinZ;
+  def.length = 0.5;
+  def.angle = 60.0;
+  // Uncut, 60 degrees of the outer radius 7: (6.06, 1 - 3.5 = -2.5).
+  def.radius = 1.0;
+  EXPECT_EQ(OuterEnd(ArcBedPolygon({}, def, kPlainView, 2)), wxPoint(1006, 998));
+  // Cut at asin(0.5 / 1.01) = 29.67 degrees of 7.01: (3.47, 1.01 - 6.09 = -5.08).
+  def.radius = 1.01;
+  EXPECT_EQ(OuterEnd(ArcBedPolygon({}, def, kPlainView, 2)), wxPoint(1003, 995));
 }
 
 TEST(Branch, KeepsItsAngleWhereTheTurnoutIsLongEnough) {

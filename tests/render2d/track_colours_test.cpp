@@ -123,6 +123,8 @@ TEST_F(TrackColours, AboveHalfAMillimetreTheHeightShows) {
   EXPECT_EQ(lookAt(0.6), (Look{{210, 210, 203}, {150, 150, 173}}));
   // t = 0.25, u = 0.5: (232.5, 215, 132.5)
   EXPECT_EQ(lookAt(30.0), (Look{{232, 215, 132}, {172, 155, 102}}));
+  // t = 0.49167, u = 0.98333: (254.25, 219.83, 62.42)
+  EXPECT_EQ(lookAt(59.0), (Look{{254, 219, 62}, {194, 159, 32}}));
 }
 
 TEST_F(TrackColours, TheHeightRunsThroughYellowAt60MmToBrownAt120) {

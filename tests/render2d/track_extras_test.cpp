@@ -62,6 +62,12 @@ TEST(StraightArch, SizesAreDividedInIntegers) {
   EXPECT_EQ(arch.pen.width, 1);
 }
 
+TEST(StraightArch, OneThatIsASingleUnitHighIsStillDrawn) {
+  // r = trunc(100 * 0.03) = 3, so 6 wide and 3 / 2 = 1 high; the middle at 1003, 3 / 4 = 0 up.
+  EXPECT_EQ(ArchOf(StraightBridge(200.0), {}, {0.03, 1000.5, 1000.5}).box,
+            wxRect(1000, 1000, 6, 1));
+}
+
 TEST(StraightArch, ThePenGrowsWithTheScale) {
   EXPECT_EQ(ArchOf(StraightBridge(200.0), {}, {2.5, 0.0, 0.0}).pen.width, 3);  // 3.75
   EXPECT_EQ(ArchOf(StraightBridge(200.0), {}, {0.1, 0.0, 0.0}).pen.width, 1);  // 0.15
@@ -87,6 +93,12 @@ TEST(CurvedArch, IsMirroredForACurveWhoseEndLiesToTheLeft) {
 
 TEST(CurvedArch, TheSideComesFromConnector1AndIsTheRightOneWithoutIt) {
   PieceDef def = LeftBridge(105.0, 90.0);
+  def.connectors[1].y = -0.1;
+  EXPECT_EQ(ArchOf(def).startAngle, -90.0);
+  for (const double y : {0.0, 0.9}) {
+    def.connectors[1].y = y;
+    EXPECT_EQ(ArchOf(def).startAngle, 90.0) << y;
+  }
   def.connectors.pop_back();
   EXPECT_EQ(ArchOf(def).startAngle, 90.0);
   def.connectors.clear();

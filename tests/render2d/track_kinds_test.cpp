@@ -91,10 +91,23 @@ TEST(Turnout, AThreeWayOneHasItsStraightBedOnTopOfBothBranches) {
   ExpectOutlined(calls);
 }
 
+TEST(Turnout, TheBranchOfAPlacedOneIsCutAtItsLength) {
+  // asin(110 / 490) = 12.972 degrees: the outer end at (496 * 110 / 490, 490 - 496 * cos 12.972) =
+  // (111.35, 6.66), mirrored for the left one; uncut x would be 111.58.
+  for (const PieceKind kind : {PieceKind::RightTurnout, PieceKind::LeftTurnout}) {
+    const PieceDef def = makeTurnout(TrackSystem::MarklinZ, "t", "", kind, 110.0, 490.0, 13.0);
+    const Points branch = PlainCalls(def).at(1).points;
+    ASSERT_EQ(branch.size(), 34u);
+    EXPECT_EQ(branch[16], wxPoint(1111, kind == PieceKind::RightTurnout ? 1007 : 993));
+  }
+}
+
 TEST(Turnout, ARightOneIsNeverThreeWay) {
   PieceDef def = Row("24630");
   def.kind = PieceKind::RightTurnout;
   const std::vector<DrawCall> calls = PlainCalls(def);
+  ASSERT_EQ(calls.size(), 2u);
+  EXPECT_EQ(calls[1].points, ArcOf(def, 2));
   EXPECT_EQ(FillsOf(calls), (std::vector<Rgba>{kDefaultFill, kDefaultBranch}));
 }
 
