@@ -17,6 +17,7 @@
 #include "catalog/track_catalog.h"
 #include "doc/layout_ops.h"
 #include "render2d/contents_drawing.h"
+#include "render2d/text_extent.h"
 #include "tests/support/recording_dc.h"
 
 namespace vantrel {
@@ -173,7 +174,9 @@ void PaintPlan(benchmark::State& state, double share) {
   const ViewTransform view = ViewOf(layout, share);
   wxBitmap bitmap(kSize.width, kSize.height, 24);
   wxMemoryDC dc(bitmap);
+  TextExtents extents{.alikeDevices = true};  // kept from paint to paint, as the canvas does
   RenderContext context;
+  context.textExtents = &extents;
   for (auto _ : state) DrawLayoutContents(context, dc, layout, view, kSize);
 }
 

@@ -61,6 +61,7 @@ KeyEvent KeyEventOf(const wxKeyEvent& event, int code) {
 }  // namespace
 
 CanvasPanel::CanvasPanel(wxWindow* parent, Workspace& workspace) : workspace_(workspace) {
+  state_.render.textExtents = &textExtents_;
   SetBackgroundStyle(wxBG_STYLE_PAINT);
   Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
          wxFULL_REPAINT_ON_RESIZE | wxWANTS_CHARS);
@@ -102,6 +103,10 @@ void CanvasPanel::bindEvents() {
   Bind(wxEVT_CHAR, &CanvasPanel::onChar, this);
   Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
     spaceHeld_ = false;
+    event.Skip();
+  });
+  Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
+    textExtents_ = {.alikeDevices = true};
     event.Skip();
   });
   Bind(wxEVT_PAINT, &CanvasPanel::onPaint, this);

@@ -9,6 +9,7 @@
 
 #include "canvas/gestures/canvas_context.h"
 #include "canvas/gestures/pointer_event.h"
+#include "render2d/text_extent.h"
 #include "workspace/workspace.h"
 
 namespace vantrel {
@@ -73,6 +74,8 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
   void noteCanvasClick(Vec2 world) override;
 
   Workspace& workspace_;
+  // A window's paints all measure alike, so what one of them measured serves the next.
+  TextExtents textExtents_{.alikeDevices = true};
   CanvasState state_;
   // Space as told by key events: the state of a key can't be asked for on every display.
   bool spaceHeld_ = false;

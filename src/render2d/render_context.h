@@ -15,7 +15,8 @@ struct RenderContext {
   // Ids of helix stubs and of what is joined to them without a grade of its own: these keep their
   // plain colours although they are high. Filled anew by each DrawLayoutContents.
   std::unordered_set<std::int32_t> helixLinked;
-  // Texts measured in the paint under way; null outside one. Lent by TextExtentsOfPaint.
+  // Texts measured so far: the owner's, kept from paint to paint, or lent by TextExtentsOfPaint for
+  // one paint and null outside it.
   TextExtents* textExtents = nullptr;
 };
 

@@ -5,12 +5,19 @@
 namespace vantrel {
 namespace {
 
+// A plan that is zoomed and edited all day meets many fonts and texts. More than any one paint uses
+// are forgotten and measured again.
+constexpr std::size_t kMostFonts = 32;
+constexpr std::size_t kMostTexts = 4096;  // per font
+
 void BindDevice(TextExtents& extents, const wxDC& dc) {
   double scaleX = 0.0;
   double scaleY = 0.0;
   dc.GetUserScale(&scaleX, &scaleY);
-  if (extents.device == &dc && extents.scaleX == scaleX && extents.scaleY == scaleY) return;
-  extents = TextExtents{};
+  const bool sameDevice = extents.alikeDevices || extents.device == &dc;
+  if (sameDevice && extents.scaleX == scaleX && extents.scaleY == scaleY) return;
+  extents.fonts.clear();
+  extents.lastFont = 0;
   extents.device = &dc;
   extents.scaleX = scaleX;
   extents.scaleY = scaleY;
@@ -24,6 +31,7 @@ TextExtents::OfFont& EntryOf(TextExtents& extents, const wxFont& font) {
     extents.lastFont = i;
     return extents.fonts[i];
   }
+  if (extents.fonts.size() >= kMostFonts) extents.fonts.clear();
   extents.lastFont = extents.fonts.size();
   extents.fonts.push_back({font, {}});
   return extents.fonts.back();
@@ -35,6 +43,7 @@ const MeasuredText& MeasureText(TextExtents& extents, wxDC& dc, std::string_view
   BindDevice(extents, dc);
   TextExtents::OfFont& entry = EntryOf(extents, dc.GetFont());
   if (const auto known = entry.texts.find(utf8); known != entry.texts.end()) return known->second;
+  if (entry.texts.size() >= kMostTexts) entry.texts.clear();
   MeasuredText measured;
   measured.text = wxString::FromUTF8(utf8.data(), utf8.size());
   if (measured.text.empty()) measured.text = wxString::From8BitData(utf8.data(), utf8.size());

@@ -26,8 +26,11 @@ struct MeasuredText {
 
 // Measurements made on one device, by font and text. The same font is of another size on a screen,
 // on a page and in a vector file, and device contexts come and go at the same addresses; therefore
-// a TextExtents never outlives the paint it was made for.
+// a TextExtents doesn't outlive the paint it was made for, unless its owner knows better: a window
+// always paints on the same kind of device.
 struct TextExtents {
+  // Set by an owner all of whose devices measure alike: the measurements then serve them all.
+  bool alikeDevices = false;
   struct TextHash {
     using is_transparent = void;
     std::size_t operator()(std::string_view text) const {
@@ -42,21 +45,22 @@ struct TextExtents {
   const wxDC* device = nullptr;  // the one measured on
   double scaleX = 0.0;           // its user scale at that time
   double scaleY = 0.0;
-  std::vector<OfFont> fonts;
+  std::vector<OfFont> fonts{};
   std::size_t lastFont = 0;  // where the latest text was found
 };
 
 // `utf8` in the font that `dc` has now, measured unless `extents` knows it already. Measurements of
-// another device, or of the same at another user scale, are dropped first. What is returned lives
-// until then. Bytes that aren't UTF-8 count as Latin-1, so that a damaged text stays visible.
+// another device, or of the same at another user scale, are dropped first, and those of fonts and
+// texts beyond a bound. What is returned lives until the next call. Bytes that aren't UTF-8 count
+// as Latin-1, so that a damaged text stays visible.
 const MeasuredText& MeasureText(TextExtents& extents, wxDC& dc, std::string_view utf8);
 
-// Lends a context one TextExtents for as long as this object lives: the length of one paint.
+// Lends a context that has none a TextExtents for as long as this object lives: one paint.
 class TextExtentsOfPaint {
  public:
   explicit TextExtentsOfPaint(RenderContext& context)
       : context_(context), before_(context.textExtents) {
-    context_.textExtents = &extents_;
+    if (before_ == nullptr) context_.textExtents = &extents_;
   }
   ~TextExtentsOfPaint() { context_.textExtents = before_; }
   TextExtentsOfPaint(const TextExtentsOfPaint&) = delete;

@@ -49,6 +49,32 @@ TEST(TextExtent, AnotherDeviceIsMeasuredAnew) {
   EXPECT_EQ(MeasureText(extents, screen, "24188").size, wxSize(50, 20));
 }
 
+TEST(TextExtent, DevicesThatMeasureAlikeShareTheirMeasurements) {
+  TextExtents extents{.alikeDevices = true};
+  RecordingDC firstPaint;
+  SetPoints(firstPaint, 10);
+  EXPECT_EQ(MeasureText(extents, firstPaint, "24188").size, wxSize(50, 20));
+  RecordingDC secondPaint;
+  SetPoints(secondPaint, 10);
+  EXPECT_EQ(MeasureText(extents, secondPaint, "24188").size, wxSize(50, 20));
+  EXPECT_EQ(firstPaint.measurements(), 1);
+  EXPECT_EQ(secondPaint.measurements(), 0);
+}
+
+TEST(TextExtent, MeasurementsOfManyFontsAndTextsAreBounded) {
+  RecordingDC dc;
+  TextExtents extents{.alikeDevices = true};
+  for (int points = 1; points <= 500; ++points) {
+    SetPoints(dc, points);
+    EXPECT_EQ(MeasureText(extents, dc, "24188").size, wxSize(5 * points, 2 * points));
+  }
+  EXPECT_LE(extents.fonts.size(), 32u);
+  SetPoints(dc, 10);
+  for (int i = 100000; i < 110000; ++i)
+    EXPECT_EQ(MeasureText(extents, dc, std::to_string(i)).size, wxSize(60, 20));
+  for (const TextExtents::OfFont& font : extents.fonts) EXPECT_LE(font.texts.size(), 4096u);
+}
+
 TEST(TextExtent, AnotherUserScaleIsMeasuredAnew) {
   RecordingDC dc;
   TextExtents extents;
@@ -98,6 +124,17 @@ TEST(TextExtent, AContextIsLentTheMeasurementsForOnePaintOnly) {
     EXPECT_TRUE(context.textExtents->fonts.empty());
   }
   EXPECT_EQ(context.textExtents, nullptr);
+}
+
+TEST(TextExtent, AContextWithMeasurementsOfItsOwnKeepsThem) {
+  TextExtents own{.alikeDevices = true};
+  RenderContext context;
+  context.textExtents = &own;
+  {
+    const TextExtentsOfPaint paint(context);
+    EXPECT_EQ(context.textExtents, &own);
+  }
+  EXPECT_EQ(context.textExtents, &own);
 }
 
 }  // namespace
