@@ -24,10 +24,13 @@ void BindDevice(TextExtents& extents, const wxDC& dc) {
 }
 
 TextExtents::OfFont& EntryOf(TextExtents& extents, const wxFont& font) {
-  if (extents.lastFont < extents.fonts.size() && extents.fonts[extents.lastFont].font == font)
+  if (extents.lastFont < extents.fonts.size() &&
+      extents.fonts[extents.lastFont].font.IsSameAs(font))
     return extents.fonts[extents.lastFont];
   for (std::size_t i = 0; i < extents.fonts.size(); ++i) {
     if (extents.fonts[i].font != font) continue;
+    // Fonts that are made anew compare by their descriptions, which is slow; the same one doesn't.
+    extents.fonts[i].font = font;
     extents.lastFont = i;
     return extents.fonts[i];
   }
