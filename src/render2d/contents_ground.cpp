@@ -96,8 +96,8 @@ void DrawBaseboardEdgeLabels(ContentsPaint& paint) {
     const std::optional<Edge> edge = PolygonEdge(board, i, mean, kShortestLabelledEdgeMm);
     if (!edge) continue;
     const wxPoint anchor =
-        ToPoint(paint.view.toDevice({edge->middle.x - kEdgeLabelDistanceMm * edge->inward.x,
-                                     edge->middle.y - kEdgeLabelDistanceMm * edge->inward.y}));
+        ToPoint(paint.view.toDevice({edge->middle.x + kEdgeLabelDistanceMm * edge->outward.x,
+                                     edge->middle.y + kEdgeLabelDistanceMm * edge->outward.y}));
     if (paint.area.missesCentredBox(anchor, bounds.ofLength(edge->length), kPlatePadX)) continue;
     DrawTextOnPlate(paint, FormatLength(edge->length, paint.layout.units), anchor, kPlatePadX,
                     kPlatePadY);

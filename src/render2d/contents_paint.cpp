@@ -74,13 +74,14 @@ std::optional<Edge> PolygonEdge(std::span<const Vec2> vertices, std::size_t i, V
   const double dy = to.y - from.y;
   const double length = std::hypot(dx, dy);
   if (!(length >= minLength) || !std::isfinite(length)) return std::nullopt;
-  Edge edge{.middle = {(from.x + to.x) / 2.0, (from.y + to.y) / 2.0},
-            .length = length,
-            .inward = {-dy / length, dx / length}};
-  const double towardMean =
-      edge.inward.x * (mean.x - edge.middle.x) + edge.inward.y * (mean.y - edge.middle.y);
-  if (towardMean < 0.0) edge.inward = {-edge.inward.x, -edge.inward.y};
-  return edge;
+  const Vec2 middle{(from.x + to.x) / 2.0, (from.y + to.y) / 2.0};
+  const Vec2 normal{-dy / length, dx / length};
+  const Vec2 opposite{-normal.x, -normal.y};
+  const double towardMean = normal.x * (mean.x - middle.x) + normal.y * (mean.y - middle.y);
+  return Edge{.middle = middle,
+              .length = length,
+              .inward = towardMean < 0.0 ? opposite : normal,
+              .outward = towardMean > 0.0 ? opposite : normal};
 }
 
 }  // namespace vantrel

@@ -106,7 +106,11 @@ Vec2 MeanVertex(std::span<const Vec2> vertices);
 struct Edge {
   Vec2 middle;
   double length = 0.0;  // mm
-  Vec2 inward;          // unit normal that points toward the polygon's mean vertex
+  // Unit normals toward the polygon's mean vertex and away from it. Both are the edge's direction
+  // turned a quarter clockwise on the device if the mean lies on the edge's line, as it does at the
+  // inner corner of an even L.
+  Vec2 inward;
+  Vec2 outward;
 };
 // The edge from vertex i to the next one; nothing for one shorter than `minLength` mm or with an
 // end that is no finite point.

@@ -58,6 +58,13 @@ TEST(ContentsGrades, ADownwardRunIsBlueAndALevelOneOrange) {
   EXPECT_EQ(level[0].pen, SolidPen(kUp, 3));
 }
 
+TEST(ContentsGrades, ASlopeThatRoundsToZeroKeepsItsSign) {
+  const auto calls = ArrowOf(WithRun(-0.04));
+  ASSERT_EQ(calls.size(), 3u);
+  EXPECT_EQ(calls[2].text, "-0.0 deg");
+  EXPECT_EQ(calls[2].textForeground, kDown);
+}
+
 TEST(ContentsGrades, TheArrowTurnsRoundWhenOnlyConnector1IsJoined) {
   Layout layout = WithRun(2.0);
   layout.pieces.push_back(ColouredTrack(2, 488.3, 700, {1, 2, 3}));
@@ -106,6 +113,16 @@ TEST(ContentsGrades, ARunThatLeadsNowhereHasNoArrow) {
   layout.pieces.push_back(ColouredTrack(2, 300, 300, {1, 2, 3}));
   layout.pieces[1].cat = "no such part";
   layout.gradeRuns[0].anchor = 2;
+  EXPECT_EQ(ArrowOf(layout).size(), 0u);
+}
+
+TEST(ContentsGrades, TheAnchorMayBePiece0ButNoneBelow) {
+  Layout layout = WithRun(2.0);
+  layout.pieces[0].id = 0;
+  layout.gradeRuns[0].anchor = 0;
+  EXPECT_EQ(ArrowOf(layout).size(), 3u);
+  layout.pieces[0].id = -2;
+  layout.gradeRuns[0].anchor = -2;
   EXPECT_EQ(ArrowOf(layout).size(), 0u);
 }
 

@@ -95,6 +95,22 @@ TEST(ContentsGround, ABaseboardDrawnTheOtherWayRoundHasItsLengthsOutsideToo) {
   EXPECT_EQ(across[1].points, Points({{117, 37}}));
 }
 
+TEST(ContentsGround, AnEdgeInLineWithTheMeanOfTheBaseboardHasItsLengthOnTheRightOfItsDirection) {
+  // The mean of this even L is its inner corner (200, 200), which lies on both inner edges.
+  Layout layout = PlainPlan();
+  layout.baseboard = {{0, 0}, {400, 0}, {400, 200}, {200, 200}, {200, 400}, {0, 400}};
+  const auto inner = Texts(Painted(layout, {1.0, 50.0, 60.0}), "200 mm");
+  ASSERT_EQ(inner.size(), 4u);
+  // In the outline's order; the text is 66 by 22. Right: (400, 100) to (412, 100), on the device
+  // (462, 160). The inner edge that runs left from (400, 200) has its middle at (300, 200), and
+  // (-dy, dx) points up: (300, 188), on the device (350, 248). The one that runs down has its at
+  // (200, 300), and (-dy, dx) points left: (188, 300), on the device (238, 360). Lower: (150, 472).
+  EXPECT_EQ(inner[0].points, Points({{429, 149}}));
+  EXPECT_EQ(inner[1].points, Points({{317, 237}}));
+  EXPECT_EQ(inner[2].points, Points({{205, 349}}));
+  EXPECT_EQ(inner[3].points, Points({{117, 461}}));
+}
+
 TEST(ContentsGround, ABaseboardEdgeOf9Point9MmHasNoLabelAndAShapeEdgeOf9Point9MmHasOne) {
   Layout layout = PlainPlan();
   layout.baseboard = Outline(100, 100, 400, 109.9);

@@ -199,6 +199,17 @@ TEST(ContentsHelix, JointsToNowhereAndRingsOfTrackEndTheWalk) {
   EXPECT_EQ(context.helixLinked, (Ids{1, 2, 3, 4, 5}));
 }
 
+TEST(ContentsHelix, TheWalkReachesPiece0ButNoneBelow) {
+  Layout layout = HelixWithTrack();
+  layout.pieces[4].joints[1] = {0, 0};  // 5 to piece 0, and that one to piece -7
+  layout.pieces.push_back(ColouredTrack(0, -5000, 0, {8, 0, 0}));
+  layout.pieces.back().joints[1] = {-7, 0};
+  layout.pieces.push_back(ColouredTrack(-7, -5000, 0, {9, 0, 0}));
+  RenderContext context;
+  PaintedWith(context, layout, kSmall);
+  EXPECT_EQ(context.helixLinked, (Ids{0, 1, 2, 3, 4, 5}));
+}
+
 TEST(ContentsHelix, AChainOfAHundredThousandPiecesIsWalked) {
   Layout layout = WithHelix();
   layout.pieces = {Stub(1, 50, 0.0, {1, 0, 0})};
