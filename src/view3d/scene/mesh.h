@@ -53,26 +53,33 @@ struct SolidColours {
   Rgb top;
 };
 
+// Where the item coordinates `point` land in the item's own frame.
+Vec3f PlaceInFootprint(Vec3f point, Footprint footprint);
+
 // All primitives append, their indices starting at the mesh's vertex count. Front faces (counter-
 // clockwise) and normals point outward.
 
-// Corners in order around the quad; two triangles with this normal.
+// Corners in order around the face, either way: the triangles are wound so that they front the
+// normal.
 void AddQuad(Mesh& mesh, const std::array<Vec3f, 4>& corners, Vec3f normal, Rgb colour);
+void AddTriangle(Mesh& mesh, const std::array<Vec3f, 3>& corners, Vec3f normal, Rgb colour);
 
-// Six quads with flat normals; `corner` is the lowest x, y, z in item coordinates.
+// Six quads with flat normals; `corner` is the lowest x, y, z in item coordinates. A negative size
+// reaches the other way from it.
 void AddBox(Mesh& mesh, Vec3f corner, Vec3f size, SolidColours colours, Footprint footprint);
 
-// A square bar from `a` to `b`, in the mesh's own frame.
+// A square bar from `a` to `b`, in the mesh's own frame. Its second axis is level, except along a
+// bar within some 25 degrees of upright, where it lies across x.
 void AddBeam(Mesh& mesh, Vec3f a, Vec3f b, float halfThickness, Rgb colour);
 
-// `centre` is the middle of the base, in the mesh's own frame.
+// `centre` is the middle of the base, in the mesh's own frame. At least 3 sides.
 void AddCone(Mesh& mesh, Vec3f centre, float radius, float height, Rgb colour, int sides);
 
-// n rings from pole to pole and 2n sectors, in the mesh's own frame.
+// n rings from pole to pole and 2n sectors, in the mesh's own frame. At least 2 rings.
 void AddSphere(Mesh& mesh, Vec3f centre, float radius, Rgb colour, int rings);
 
 // Roofs over the rectangle from (x, y) with the size (sx, sy), in item coordinates, from z `eave`
-// up by `rise`.
+// up by `rise`. They are open below, where the walls close them.
 struct RoofPlan {
   float x = 0.0F;
   float y = 0.0F;
@@ -82,8 +89,8 @@ struct RoofPlan {
   float rise = 0.0F;
 };
 
-// The ridge is inset by a fifth of the shorter side from all four eaves. `side` colours the slopes
-// along y, `top` those along x.
+// Four slopes up to a flat ridge, inset by a fifth of the shorter side from all four eaves. `side`
+// colours the two slopes whose eaves run along y, `top` those along x and the ridge.
 void AddHipRoof(Mesh& mesh, const RoofPlan& plan, SolidColours colours, Footprint footprint);
 // The ridge runs along x at half of sy: two slopes in `top`, two end triangles in `side`.
 void AddGableRoof(Mesh& mesh, const RoofPlan& plan, SolidColours colours, Footprint footprint);
