@@ -27,6 +27,15 @@ void OpenSlotsNaming(Layout& layout, const Joint& end) {
       if (joint == end) joint = Joint{};
 }
 
+Joint EndOf(const Piece& piece, std::size_t connector) {
+  return {.target = piece.id, .tconn = static_cast<std::int32_t>(connector)};
+}
+
+std::uint64_t KeyOf(const Joint& end) {
+  return static_cast<std::uint64_t>(static_cast<std::uint32_t>(end.target)) << 32 |
+         static_cast<std::uint32_t>(end.tconn);
+}
+
 }  // namespace
 
 void GrowJoints(Piece& piece) {
@@ -55,6 +64,52 @@ void joinPieces(Layout& layout, std::int32_t pieceA, std::int32_t a, std::int32_
   OpenSlotsNaming(layout, endB);
   first->joints[static_cast<std::size_t>(a)] = endB;
   second->joints[static_cast<std::size_t>(b)] = endA;
+}
+
+EndJoiner::EndJoiner(Layout& layout) : layout_(layout) {
+  std::size_t links = 0;
+  for (const Piece& piece : layout.pieces) links += piece.joints.size();
+  named_.reserve(links);
+  for (std::size_t i = 0; i < layout.pieces.size(); ++i) {
+    const Piece& piece = layout.pieces[i];
+    for (std::size_t slot = 0; slot < piece.joints.size(); ++slot)
+      if (!piece.joints[slot].open())
+        named_.emplace(KeyOf(piece.joints[slot]), SlotPlace{.piece = i, .slot = slot});
+  }
+}
+
+void EndJoiner::join(std::size_t pieceA, std::size_t a, std::size_t pieceB, std::size_t b) {
+  if (!openForJoin(pieceA, a, pieceB, b)) return;
+  GrowJoints(layout_.pieces[pieceA]);
+  GrowJoints(layout_.pieces[pieceB]);
+  link(pieceA, a, EndOf(layout_.pieces[pieceB], b));
+  link(pieceB, b, EndOf(layout_.pieces[pieceA], a));
+}
+
+bool EndJoiner::openForJoin(std::size_t pieceA, std::size_t a, std::size_t pieceB, std::size_t b) {
+  const Piece& first = layout_.pieces[pieceA];
+  const Piece& second = layout_.pieces[pieceB];
+  const Joint endA = EndOf(first, a);
+  const Joint endB = EndOf(second, b);
+  if (first.id < 0 || second.id < 0 || endA == endB) return false;
+  if (a >= SlotCount(first) || b >= SlotCount(second)) return false;
+  openSlotsNaming(endA);
+  openSlotsNaming(endB);
+  return true;
+}
+
+void EndJoiner::openSlotsNaming(const Joint& end) {
+  const auto [first, last] = named_.equal_range(KeyOf(end));
+  for (auto entry = first; entry != last; ++entry) {
+    Joint& joint = layout_.pieces[entry->second.piece].joints[entry->second.slot];
+    if (joint == end) joint = Joint{};
+  }
+  named_.erase(first, last);
+}
+
+void EndJoiner::link(std::size_t piece, std::size_t slot, const Joint& end) {
+  layout_.pieces[piece].joints[slot] = end;
+  named_.emplace(KeyOf(end), SlotPlace{.piece = piece, .slot = slot});
 }
 
 }  // namespace vantrel

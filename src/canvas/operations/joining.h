@@ -1,7 +1,9 @@
 // Joins between pieces. A join is the pair of slots that name each other; there is no other record.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <unordered_map>
 
 #include "doc/layout.h"
 
@@ -19,5 +21,32 @@ void GrowAllJoints(Layout& layout);
 // when a piece is missing, an index is out of range or both ends are the same connector.
 void joinPieces(Layout& layout, std::int32_t pieceA, std::int32_t a, std::int32_t pieceB,
                 std::int32_t b);
+
+// The same join for a loop that makes many: the slots that name an end come from an index instead
+// of a walk over all pieces. Works by places in `pieces`, so that equal ids are no obstacle. While
+// it lives, slots change only through it, and no piece comes, goes or moves in the list.
+class EndJoiner {
+ public:
+  explicit EndJoiner(Layout& layout);
+
+  // Joins connector `a` of the piece at place `pieceA` to connector `b` of the one at `pieceB`; the
+  // rest as joinPieces.
+  void join(std::size_t pieceA, std::size_t a, std::size_t pieceB, std::size_t b);
+
+  // What a join of these ends would open, without joining them. True when they could be joined.
+  bool openForJoin(std::size_t pieceA, std::size_t a, std::size_t pieceB, std::size_t b);
+
+ private:
+  struct SlotPlace {
+    std::size_t piece = 0;
+    std::size_t slot = 0;
+  };
+
+  void openSlotsNaming(const Joint& end);
+  void link(std::size_t piece, std::size_t slot, const Joint& end);
+
+  Layout& layout_;
+  std::unordered_multimap<std::uint64_t, SlotPlace> named_;  // who names an end, or did
+};
 
 }  // namespace vantrel

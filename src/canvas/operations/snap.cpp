@@ -1,11 +1,10 @@
 #include "canvas/operations/snap.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <limits>
 
-#include "catalog/connector_geometry.h"
+#include "canvas/operations/connector_reach.h"
 #include "catalog/track_catalog.h"
 #include "doc/layout_ops.h"
 
@@ -39,44 +38,21 @@ std::vector<OwnEnd> OwnEnds(const PieceDef& def, const Pose& pose) {
   return ends;
 }
 
-// At least the distance in mm from a piece's origin to its farthest connector, whatever its
-// heading.
-double Reach(const PieceDef& def) {
-  double reach = 0.0;
-  for (const Connector& connector : def.connectors)
-    reach = std::max(reach, std::abs(connector.x) + std::abs(connector.y));
-  return reach;
-}
-
-double LongestReach() {
-  static const double longest = [] {
-    double reach = 0.0;
-    for (std::int32_t i = 0; i < catalog().pieceCount(); ++i)
-      reach = std::max(reach, Reach(*catalog().pieceAt(i)));
-    return reach;
-  }();
-  return longest;
-}
-
 // Sorts out pieces by their origins alone, before any look-up or trigonometry. It never sorts out a
-// piece with a connector in reach: the slack covers the rounding of the exact sums, at coordinates
-// of any size, and a comparison with not-a-number keeps the piece.
+// piece with a connector in reach: a comparison with not-a-number keeps the piece.
 class Neighbourhood {
  public:
   Neighbourhood(const PieceDef& def, const Pose& pose)
-      : pose_(pose), ownReach_(Reach(def) + kSnapDistanceMm + kSlackMm) {}
+      : pose_(pose), ownReach_(ConnectorReach(def) + kSnapDistanceMm) {}
 
   bool tooFar(const Piece& piece, double reach) const {
     const double size =
         std::abs(pose_.x) + std::abs(pose_.y) + std::abs(piece.x) + std::abs(piece.y);
-    const double limit = ownReach_ + reach + kRelativeSlack * size;
+    const double limit = ownReach_ + reach + ReachSlack(size);
     return std::abs(piece.x - pose_.x) > limit || std::abs(piece.y - pose_.y) > limit;
   }
 
  private:
-  static constexpr double kSlackMm = 1.0;
-  static constexpr double kRelativeSlack = 1e-14;  // some 45 steps of a double
-
   Pose pose_;
   double ownReach_;
 };
@@ -87,12 +63,6 @@ double HeadingDifference(double a, double b) {
   return difference > 180.0 ? 360.0 - difference : difference;
 }
 
-bool WithinLimits(const WorldConnector& a, const WorldConnector& b, double distance) {
-  // Not-a-number fails too.
-  return distance <= kSnapDistanceMm &&
-         HeadingDifference(a.heading, b.heading) >= kSnapHeadingDegrees;
-}
-
 // Shows `visit` every pair within the limits, in the order that decides ties, until it returns
 // false.
 template <typename Visit>
@@ -100,11 +70,11 @@ void ForEachNearPair(const PieceDef& def, const Pose& pose, std::span<const Piec
                      Visit visit) {
   const std::vector<OwnEnd> ends = OwnEnds(def, pose);
   const Neighbourhood neighbourhood(def, pose);
-  const double longestReach = LongestReach();
+  const double longestReach = LongestConnectorReach();
   for (const Piece* const piece : others) {
     if (neighbourhood.tooFar(*piece, longestReach)) continue;
     const PieceDef* const otherDef = findPart(piece->cat);
-    if (otherDef == nullptr || neighbourhood.tooFar(*piece, Reach(*otherDef))) continue;
+    if (otherDef == nullptr || neighbourhood.tooFar(*piece, ConnectorReach(*otherDef))) continue;
     for (std::size_t i = 0; i < otherDef->connectors.size(); ++i) {
       if (!IsConnectorOpen(*piece, i)) continue;
       const WorldConnector connector = worldConnector(*piece, *otherDef, i);
@@ -113,7 +83,7 @@ void ForEachNearPair(const PieceDef& def, const Pose& pose, std::span<const Piec
         const double dx = connector.x - own.at.x;
         const double dy = connector.y - own.at.y;
         const double distance = std::sqrt(dx * dx + dy * dy);
-        if (!WithinLimits(own.at, connector, distance)) continue;
+        if (!WithinSnapLimits(own.at, connector, distance)) continue;
         if (!visit(NearPair{*piece, connector, system, own, distance})) return;
       }
     }
@@ -121,6 +91,12 @@ void ForEachNearPair(const PieceDef& def, const Pose& pose, std::span<const Piec
 }
 
 }  // namespace
+
+bool WithinSnapLimits(const WorldConnector& a, const WorldConnector& b, double distance) {
+  // Not-a-number fails too.
+  return distance <= kSnapDistanceMm &&
+         HeadingDifference(a.heading, b.heading) >= kSnapHeadingDegrees;
+}
 
 std::vector<const Piece*> VisiblePieces(const Layout& layout) {
   const std::unordered_set<std::int32_t> hidden = HiddenLevels(layout);

@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include "catalog/connector_geometry.h"
 #include "catalog/piece_def.h"
 #include "doc/layout.h"
 
@@ -33,6 +34,9 @@ struct IncompatibleJoin {
   std::int32_t ownSystem = 0;    // system of the moving connector
   std::int32_t otherSystem = 0;  // system of the connector it can't join
 };
+
+// Whether two connectors `distance` mm apart are within both limits. Not for not-a-number.
+bool WithinSnapLimits(const WorldConnector& a, const WorldConnector& b, double distance);
 
 // All pieces that are not on a hidden level, in order. The pointers die with the next change of
 // `pieces`.
