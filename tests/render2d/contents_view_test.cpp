@@ -1,5 +1,7 @@
 // What lies outside the visible area is skipped, and nothing else is.
 #include <gtest/gtest.h>
+#include <wx/bitmap.h>
+#include <wx/dcmemory.h>
 
 #include <algorithm>
 #include <chrono>
@@ -432,6 +434,22 @@ TEST(ContentsView, AnyNumbersInAnyViewArePaintedInBoundedWork) {
       }
     }
   }
+}
+
+TEST(ContentsView, ARealDeviceSurvivesAnyNumbersAtTheScalesOfAWindow) {
+  wxBitmap bitmap(kWindow.width, kWindow.height, 24);
+  wxMemoryDC dc(bitmap);
+  RenderContext context;
+  const auto start = std::chrono::steady_clock::now();
+  for (const double value : kAbsurd) {
+    const Layout layout = AbsurdPlan(value);
+    for (const double scale : {0.05, 0.4, 20.0})
+      for (const double offset : {60.0, 1e6, -1e9, 1e300, kInf, std::nan("")})
+        DrawLayoutContents(context, dc, layout, {scale, offset, -offset}, kWindow);
+  }
+  // About 200 paints of some milliseconds each.
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60));
+  EXPECT_TRUE(dc.IsOk());
 }
 
 TEST(ContentsView, APieceWithoutAMeaningfulHeadingIsNotSkipped) {
