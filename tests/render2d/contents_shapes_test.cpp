@@ -86,6 +86,11 @@ TEST(ContentsShapes, ASlantedEdgeShiftsItsLengthByBothTruncatedComponents) {
   // Middle (250, 300), inward normal (-0.8, 0.6): 12 times that is (-9.6, 7.2), so the text's
   // centre is (250 - 9, 300 - 7).
   EXPECT_EQ(lengths[0].points, Points({{211, 283}}));
+  // Upside down: inward (-0.8, -0.6), 12 times that (-9.6, -7.2), centre (250 - 9, 300 + 7).
+  shape.vertices = {{100, 500}, {400, 100}, {100, 100}};
+  const auto mirrored = Texts(Painted(WithShape(shape)), "500 mm");
+  ASSERT_EQ(mirrored.size(), 1u);
+  EXPECT_EQ(mirrored[0].points, Points({{211, 297}}));
 }
 
 int LengthPoints(double scale) {
