@@ -10,9 +10,9 @@
 #include "canvas/gestures/target_marker.h"
 #include "canvas/gestures/view_navigation.h"
 #include "canvas/operations/placing.h"
+#include "canvas/operations/selection.h"
 #include "catalog/connector_geometry.h"
 #include "catalog/track_catalog.h"
-#include "doc/layout_ops.h"
 #include "render2d/track_drawing.h"
 
 namespace vantrel {
@@ -62,11 +62,6 @@ void ShowFirstZPiece(CanvasContext& context, const PieceDef& def) {
     resetViewUnitScale(context);
 }
 
-void SelectOnly(Layout& layout, std::int32_t id) {
-  ClearSelection(layout);
-  if (Piece* const piece = FindPiece(layout, id)) piece->sel = true;
-}
-
 void Place(CanvasContext& context, const PieceDef& def) {
   PaletteDrag& drag = context.state.paletteDrag;
   const std::int32_t id = placePiece(context.layout, def, drag.snap, FreePose(drag));
@@ -80,12 +75,6 @@ void Place(CanvasContext& context, const PieceDef& def) {
   SelectOnly(context.layout, id);
   context.host.selectionChanged();
   context.host.repaint();
-}
-
-bool HasSelectedPiece(const Layout& layout) {
-  for (const Piece& piece : layout.pieces)
-    if (piece.sel) return true;
-  return false;
 }
 
 }  // namespace
@@ -117,7 +106,7 @@ void cancelPaletteDrag(CanvasContext& context) {
 }
 
 void placeByDoubleClick(CanvasContext& context, std::string_view part) {
-  if (!HasSelectedPiece(context.layout)) {
+  if (!hasSelectedPiece(context.layout)) {
     beginPieceDrag(context, part);
     return;
   }

@@ -46,12 +46,12 @@ std::int32_t FreeEnd(const Piece& piece, const PieceDef& def) {
   return kNone;
 }
 
+}  // namespace
+
 void SelectOnly(Layout& layout, std::int32_t id) {
   ClearSelection(layout);
   if (Piece* const piece = FindPiece(layout, id)) piece->sel = true;
 }
-
-}  // namespace
 
 Piece NewPiece(const PieceDef& def, const Pose& pose) {
   Piece piece;

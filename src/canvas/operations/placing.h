@@ -15,6 +15,9 @@ inline constexpr std::string_view kTurntablePart = "74861";
 inline constexpr std::string_view kSpokePart = "74871";
 inline constexpr std::string_view kRoundhouseItem = "72886";
 
+// Makes the piece with this id the whole selection.
+void SelectOnly(Layout& layout, std::int32_t id);
+
 // A new piece of this definition at `pose`, all connectors open, everything else at its defaults;
 // it has no id yet.
 Piece NewPiece(const PieceDef& def, const Pose& pose);
