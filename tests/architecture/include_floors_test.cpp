@@ -25,6 +25,7 @@ const std::map<std::string, int>& Floors() {
                                                     {"catalog", 2},
                                                     {"io", 2},
                                                     {"canvas/operations", 3},
+                                                    {"shopping", 3},
                                                     {"view3d/scene", 3},
                                                     {"render2d", 3},
                                                     {"app/services", 3},
@@ -101,7 +102,7 @@ TEST(Floors, EveryIncludePointsDown) {
 
 TEST(Floors, TheLowFloorsNeverSeeTheToolkit) {
   const std::set<std::string> windowless = {"doc", "catalog", "io", "canvas/operations",
-                                            "view3d/scene"};
+                                            "shopping", "view3d/scene"};
   for (const Include& include : ReadIncludes()) {
     if (!windowless.contains(FolderOf(include.from))) continue;
     EXPECT_FALSE(include.to.starts_with("wx/")) << include.from << " includes " << include.to;
