@@ -1,0 +1,23 @@
+// The dialog that explains what Buy Track does.
+#pragma once
+
+#include <wx/bitmap.h>
+#include <wx/dialog.h>
+#include <wx/image.h>
+
+namespace vantrel {
+
+// The picture of the dialog at its size, or an invalid bitmap for a dialog without one.
+wxBitmap BuyTrackPicture(bool playful);
+wxBitmap ScaledBuyTrackPicture(const wxImage& image);
+
+class BuyTrackHelpDialog : public wxDialog {
+ public:
+  // An invalid picture leaves its side of the dialog out.
+  BuyTrackHelpDialog(wxWindow* parent, const wxBitmap& picture);
+
+ private:
+  wxSizer* buildText();
+};
+
+}  // namespace vantrel

@@ -1,0 +1,36 @@
+// The foot of the properties panel: the tally of what the plan needs, and the way to the store.
+#pragma once
+
+#include <wx/panel.h>
+
+#include <functional>
+#include <string>
+
+#include "workspace/workspace.h"
+
+namespace vantrel {
+
+class TallyList;
+
+class TallyPanel : public wxPanel {
+ public:
+  // Opens a web address in the user's browser.
+  using Browser = std::function<void(const std::string& address)>;
+
+  // Without a `browser` it is the desktop's default one.
+  TallyPanel(wxWindow* parent, Workspace& workspace, Browser browser = {});
+
+  // Counts the pieces anew.
+  void RefreshTally();
+
+ private:
+  wxSizer* buildButtonRow();
+  void OnBuyTrack();
+  void OnBuyTrackHelp();
+
+  Workspace& workspace_;
+  Browser browser_;
+  TallyList* list_ = nullptr;
+};
+
+}  // namespace vantrel
