@@ -80,21 +80,23 @@ EndJoiner::EndJoiner(Layout& layout) : layout_(layout) {
 
 void EndJoiner::join(std::size_t pieceA, std::size_t a, std::size_t pieceB, std::size_t b) {
   if (!openForJoin(pieceA, a, pieceB, b)) return;
-  GrowJoints(layout_.pieces[pieceA]);
-  GrowJoints(layout_.pieces[pieceB]);
   link(pieceA, a, EndOf(layout_.pieces[pieceB], b));
   link(pieceB, b, EndOf(layout_.pieces[pieceA], a));
 }
 
 bool EndJoiner::openForJoin(std::size_t pieceA, std::size_t a, std::size_t pieceB, std::size_t b) {
-  const Piece& first = layout_.pieces[pieceA];
-  const Piece& second = layout_.pieces[pieceB];
+  Piece& first = layout_.pieces[pieceA];
+  Piece& second = layout_.pieces[pieceB];
   const Joint endA = EndOf(first, a);
   const Joint endB = EndOf(second, b);
   if (first.id < 0 || second.id < 0 || endA == endB) return false;
   if (a >= SlotCount(first) || b >= SlotCount(second)) return false;
+  GrowJoints(first);
+  GrowJoints(second);
   openSlotsNaming(endA);
   openSlotsNaming(endB);
+  first.joints[a] = Joint{};
+  second.joints[b] = Joint{};
   return true;
 }
 

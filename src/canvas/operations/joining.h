@@ -33,7 +33,8 @@ class EndJoiner {
   // rest as joinPieces.
   void join(std::size_t pieceA, std::size_t a, std::size_t pieceB, std::size_t b);
 
-  // What a join of these ends would open, without joining them. True when they could be joined.
+  // All of a join but the link itself: grows the slots, opens both and those that name either end.
+  // False for ends that can't be joined.
   bool openForJoin(std::size_t pieceA, std::size_t a, std::size_t pieceB, std::size_t b);
 
  private:
