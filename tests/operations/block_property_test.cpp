@@ -66,14 +66,14 @@ Closings PlainClosingJoints(Layout& layout) {
     if (!p.sel || def == nullptr) continue;
     for (std::size_t i = 0; i < def->connectors.size(); ++i) {
       if (!IsConnectorOpen(p, i)) continue;
-      const WorldConnector own = worldConnectors(p, *def)[i];
+      const WorldConnector own = worldConnector(p, *def, i);
       int matches = 0;
       for (Piece& q : layout.pieces) {
         const PieceDef* otherDef = findPart(q.cat);
         if (q.sel || otherDef == nullptr) continue;
         for (std::size_t j = 0; j < otherDef->connectors.size(); ++j) {
           if (!IsConnectorOpen(q, j)) continue;
-          const WorldConnector other = worldConnectors(q, *otherDef)[j];
+          const WorldConnector other = worldConnector(q, *otherDef, j);
           const double square = std::pow(own.x - other.x, 2.0) + std::pow(own.y - other.y, 2.0);
           if (!(square < 16.0)) continue;
           PlainJoin(layout, p, i, q, j);
@@ -229,7 +229,7 @@ TEST(BlockSnap, EqualsOneSearchPerSelectedPieceOverThousandsOfPlans) {
 
 TEST(ClosingJoints, EqualThePlainLoopsOverThousandsOfPlans) {
   Closings total;
-  for (unsigned seed = 0; seed < 6000; ++seed) {
+  for (unsigned seed = 0; seed < 4000; ++seed) {
     SCOPED_TRACE(seed);
     PlanDealer dealer(seed);
     const bool damage = dealer.below(2) == 0;
@@ -244,7 +244,7 @@ TEST(ClosingJoints, EqualThePlainLoopsOverThousandsOfPlans) {
     total.joins += count.joins;
     total.replaced += count.replaced;
   }
-  EXPECT_GT(total.joins, 3000);
+  EXPECT_GT(total.joins, 2000);
   EXPECT_GT(total.replaced, 1000);
 }
 

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "canvas/operations/joining.h"
+#include "canvas/operations/selection.h"
 #include "doc/undo.h"
 #include "tests/operations/plan_support.h"
 
@@ -165,6 +166,25 @@ TEST(MoveSelection, CarriesAWholeHelixAndNothingElseThatIsJoinedToIt) {
   EXPECT_EQ(layout.helices[0].cy, 50.0);
   EXPECT_EQ(PieceOf(layout, feeder).pose(), (Pose{-188.3, 0.0, 0.0}));
   EXPECT_TRUE(JointOf(layout, feeder, 1).open());
+}
+
+TEST(MoveSelection, TakesATurntablesNeighboursAlongAndTheirOtherEndsLetGo) {
+  Layout layout;
+  const std::int32_t table = LaySelected(layout, "74861", {0.0, 0.0, 0.0});
+  const std::int32_t spoke = LayPiece(layout, "74871", {200.0, 0.0, 0.0});
+  const std::int32_t beyond = LayPiece(layout, "24188", {257.5, 0.0, 0.0});
+  joinPieces(layout, table, 0, spoke, 0);
+  joinPieces(layout, spoke, 1, beyond, 0);
+  selectTurntableNeighbours(layout);
+  const MoveStart start = takeMoveStart(layout);
+  breakEdgeJoints(layout);
+  moveSelection(layout, start, {10.0, 20.0});
+  EXPECT_EQ(PieceOf(layout, table).pose(), (Pose{10.0, 20.0, 0.0}));
+  EXPECT_EQ(PieceOf(layout, spoke).pose(), (Pose{210.0, 20.0, 0.0}));
+  EXPECT_EQ(PieceOf(layout, beyond).pose(), (Pose{257.5, 0.0, 0.0}));
+  EXPECT_EQ(JointOf(layout, table, 0), (Joint{.target = spoke, .tconn = 0}));
+  EXPECT_TRUE(JointOf(layout, spoke, 1).open());
+  EXPECT_TRUE(JointOf(layout, beyond, 0).open());
 }
 
 TEST(BreakEdgeJoints, FreesAPieceFromTheMiddleOfAChainOnBothSidesAndUndoRestoresThem) {

@@ -136,8 +136,7 @@ TEST(TurnSelectionFrom, TurnsNothingAboutAPivotThatIsNoPointOrByNoAngle) {
 
 TEST(TurnSelectionByWheel, TurnsAboutTheMiddleOfTheBoxInAnUndoStepOfItsOwn) {
   Layout layout;
-  LaySelected(layout, "24188", {0.0, 0.0, 350.0});
-  PieceOf(layout, 1).heading = 0.0;
+  LaySelected(layout, "24188", {0.0, 0.0, 0.0});
   turnSelectionByWheel(layout, 90.0);
   // About (94.15, 0): its start goes straight above the middle.
   ExpectPose(layout.pieces[0].pose(), 94.15, -94.15, 90.0, 1e-9);
@@ -161,6 +160,13 @@ TEST(TurnSelectionByWheel, LeavesHelixRecordsAndAllJointsAlone) {
   EXPECT_NEAR(PieceOf(layout, stub).heading, 15.0, 1e-9);
   EXPECT_EQ(JointOf(layout, feeder, 1), (Joint{.target = stub, .tconn = 0}));
   EXPECT_EQ(JointOf(layout, stub, 0), (Joint{.target = feeder, .tconn = 1}));
+}
+
+TEST(TurnSelectionByWheel, TakesNoSnapshotWithoutSelection) {
+  Layout layout;
+  LayPiece(layout, "24188", {0.0, 0.0, 0.0});
+  turnSelectionByWheel(layout, 15.0);
+  EXPECT_TRUE(layout.undoHistory.empty());
 }
 
 TEST(RotateSelectionStep, TurnsBy30AboutTheFirstSelectedPiece) {

@@ -13,8 +13,6 @@
 namespace vantrel {
 namespace {
 
-static_assert(kSnapDistanceMm <= EndGrid::kLimitMm);
-
 // One open end of the block.
 struct BlockEnd {
   std::size_t order = 0;  // of its piece among the selected ones
@@ -82,7 +80,7 @@ std::vector<Vec2> PointsOf(const std::vector<BlockEnd>& ends) {
 }
 
 BestPair FindBestPair(const Layout& layout, const std::vector<BlockEnd>& ends) {
-  const EndGrid grid(PointsOf(ends));
+  const EndGrid grid(PointsOf(ends), kSnapDistanceMm);
   const std::unordered_set<std::int32_t> hidden = HiddenLevels(layout);
   const double longestReach = LongestConnectorReach();
   BestPair best;

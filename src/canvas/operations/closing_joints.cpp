@@ -13,8 +13,6 @@
 namespace vantrel {
 namespace {
 
-static_assert(kClosingDistanceMm <= EndGrid::kLimitMm);
-
 // Connectors in the order of the walk: by piece, then by number. Joined ones stand here too, since
 // a join can open others.
 struct EndList {
@@ -59,7 +57,7 @@ EndList EndsOfBlock(const Layout& layout) {
 // The connectors outside the block that meet an end of it.
 EndList EndsAround(const Layout& layout, const EndList& block) {
   EndList list;
-  const EndGrid grid(block.points);
+  const EndGrid grid(block.points, kClosingDistanceMm);
   const double longestReach = LongestConnectorReach();
   for (std::size_t p = 0; p < layout.pieces.size(); ++p) {
     const Piece& piece = layout.pieces[p];
@@ -83,7 +81,7 @@ void joinClosingEnds(Layout& layout) {
   const EndList block = EndsOfBlock(layout);
   const EndList around = EndsAround(layout, block);
   if (around.places.empty()) return;
-  const EndGrid grid(around.points);
+  const EndGrid grid(around.points, kClosingDistanceMm);
   EndJoiner joiner(layout);
   std::vector<std::size_t> met;  // of `around`
   for (std::size_t i = 0; i < block.places.size(); ++i) {

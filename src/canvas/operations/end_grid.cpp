@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <limits>
 
 #include "canvas/operations/connector_reach.h"
 
@@ -18,7 +19,7 @@ std::uint64_t HashPart(double cell) {
 
 }  // namespace
 
-EndGrid::EndGrid(const std::vector<Vec2>& points) {
+EndGrid::EndGrid(const std::vector<Vec2>& points, double limitMm) : limitMm_(limitMm) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   min_ = {kInfinity, kInfinity};
   max_ = {-kInfinity, -kInfinity};
@@ -40,7 +41,7 @@ bool EndGrid::tooFar(const Piece& piece, double reachMm) const {
   if (entries_.empty()) return true;
   const double size = std::abs(piece.x) + std::abs(piece.y) + std::abs(min_.x) + std::abs(max_.x) +
                       std::abs(min_.y) + std::abs(max_.y);
-  const double limit = kLimitMm + reachMm + ReachSlack(size);
+  const double limit = limitMm_ + reachMm + ReachSlack(size);
   // A comparison with not-a-number keeps the piece.
   return min_.x - piece.x > limit || piece.x - max_.x > limit || min_.y - piece.y > limit ||
          piece.y - max_.y > limit;

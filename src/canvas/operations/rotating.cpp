@@ -7,6 +7,7 @@
 #include <numeric>
 #include <optional>
 
+#include "canvas/operations/selection.h"
 #include "catalog/connector_geometry.h"
 #include "catalog/piece_builders.h"
 #include "catalog/scenery_catalog.h"
@@ -88,18 +89,12 @@ void AddScenery(Box& box, const SceneryItem& item) {
   box.add({item.x + halfWidth, item.y + halfDepth});
 }
 
-// The helix that all selected pieces share when nothing else is selected.
+// The record of commonHelixOfSelection, or null.
 Helix* HelixSelectedAlone(Layout& layout) {
-  std::int32_t id = kNone;
-  for (const Piece& piece : layout.pieces) {
-    if (!piece.sel) continue;
-    if (piece.helix == kNone || (id != kNone && piece.helix != id)) return nullptr;
-    id = piece.helix;
-  }
-  for (const SceneryItem& item : layout.scenery)
-    if (item.sel) return nullptr;
+  const std::int32_t id = commonHelixOfSelection(layout);
+  if (id == kNone) return nullptr;
   for (Helix& helix : layout.helices)
-    if (id != kNone && helix.id == id) return &helix;
+    if (helix.id == id) return &helix;
   return nullptr;
 }
 
@@ -147,14 +142,17 @@ void turnSelectionFrom(Layout& layout, const std::vector<Pose>& start, Vec2 pivo
 }
 
 void turnSelectionByWheel(Layout& layout, double degrees) {
+  const std::vector<Pose> start = selectionPoses(layout);
+  if (start.empty()) return;
   const Vec2 pivot = selectionBoxMiddle(layout);
   PushUndo(layout);
-  turnSelectionFrom(layout, selectionPoses(layout), pivot, degrees);
+  turnSelectionFrom(layout, start, pivot, degrees);
 }
 
 void rotateSelectionStep(Layout& layout) {
   std::optional<Vec2> pivot;
-  if (const Helix* const helix = HelixSelectedAlone(layout))
+  Helix* const helix = HelixSelectedAlone(layout);
+  if (helix != nullptr)
     pivot = Vec2{helix->cx, helix->cy};
   else
     ForEachSelected(layout, [&](const auto& record) {
@@ -162,8 +160,7 @@ void rotateSelectionStep(Layout& layout) {
     });
   if (!pivot || !IsPoint(*pivot)) return;
   PushUndo(layout);
-  if (Helix* const helix = HelixSelectedAlone(layout))
-    helix->heading = normalizeDegrees(helix->heading + kTrackStepDegrees);
+  if (helix != nullptr) helix->heading = normalizeDegrees(helix->heading + kTrackStepDegrees);
   for (Piece& piece : layout.pieces)
     if (piece.sel) SetTurned(piece, piece.pose(), *pivot, kTrackStepDegrees);
   for (SceneryItem& item : layout.scenery)
