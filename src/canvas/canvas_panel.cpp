@@ -1,18 +1,26 @@
 #include "canvas/canvas_panel.h"
 
+#include <wx/accel.h>
 #include <wx/cursor.h>
 #include <wx/dcbuffer.h>
+#include <wx/menu.h>
 #include <wx/msgdlg.h>
 #include <wx/toplevel.h>
 #include <wx/utils.h>
 
+#include <iterator>
+
 #include "canvas/event_order.h"
+#include "canvas/gestures/deleting.h"
 #include "canvas/gestures/palette_drag.h"
 #include "canvas/gestures/scenery_drag.h"
 #include "canvas/gestures/view_navigation.h"
 
 namespace vantrel {
 namespace {
+
+// The command behind Delete and Backspace while the canvas has the focus.
+constexpr int kCanvasDelete = 5038;
 
 wxCursor CursorFor(CanvasCursor cursor) {
   switch (cursor) {
@@ -65,6 +73,10 @@ CanvasPanel::CanvasPanel(wxWindow* parent, Workspace& workspace) : workspace_(wo
   SetBackgroundStyle(wxBG_STYLE_PAINT);
   Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
          wxFULL_REPAINT_ON_RESIZE | wxWANTS_CHARS);
+  flashTimer_.SetOwner(this);
+  const wxAcceleratorEntry keys[] = {{wxACCEL_NORMAL, WXK_DELETE, kCanvasDelete},
+                                     {wxACCEL_NORMAL, WXK_BACK, kCanvasDelete}};
+  SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(std::size(keys)), keys));
   bindEvents();
 }
 
@@ -82,6 +94,7 @@ void CanvasPanel::bindPointer(const wxEventTypeTag<wxMouseEvent>& type, PointerL
 void CanvasPanel::bindEvents() {
   bindPointer(wxEVT_LEFT_DOWN, onLeftPress);
   bindPointer(wxEVT_LEFT_UP, onLeftRelease);
+  bindPointer(wxEVT_LEFT_DCLICK, onDoubleClick);
   bindPointer(wxEVT_MOTION, onMotion);
   // A pointer that jumps into the window raises no motion before the next one.
   bindPointer(wxEVT_ENTER_WINDOW, onMotion);
@@ -98,6 +111,17 @@ void CanvasPanel::bindEvents() {
     CanvasContext canvas = context();
     onCaptureLost(canvas);
   });
+  Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
+    CanvasContext canvas = context();
+    onFlashTimer(canvas);
+  });
+  Bind(
+      wxEVT_MENU,
+      [this](wxCommandEvent&) {
+        CanvasContext canvas = context();
+        deleteFromCanvas(canvas);
+      },
+      kCanvasDelete);
   Bind(wxEVT_KEY_DOWN, &CanvasPanel::onKeyDown, this);
   Bind(wxEVT_KEY_UP, &CanvasPanel::onKeyUp, this);
   Bind(wxEVT_CHAR, &CanvasPanel::onChar, this);
@@ -265,6 +289,24 @@ bool CanvasPanel::ask(const std::string& title, const std::string& text, bool de
   const long style = wxYES_NO | wxICON_QUESTION | (defaultYes ? wxYES_DEFAULT : wxNO_DEFAULT);
   return wxMessageBox(wxString::FromUTF8(text), wxString::FromUTF8(title), style,
                       wxGetTopLevelParent(this)) == wxYES;
+}
+
+int CanvasPanel::popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) {
+  wxMenu menu;
+  int taken = 0;
+  for (const MenuEntry& entry : entries)
+    menu.Append(entry.id, wxString::FromUTF8(entry.label))->Enable(entry.enabled);
+  menu.Bind(wxEVT_MENU, [&taken](wxCommandEvent& event) { taken = event.GetId(); });
+  PopupMenu(&menu, at.x, at.y);
+  return taken;
+}
+
+void CanvasPanel::startFlashTimer(int milliseconds) {
+  flashTimer_.StartOnce(milliseconds);
+}
+
+void CanvasPanel::stopFlashTimer() {
+  flashTimer_.Stop();
 }
 
 void CanvasPanel::selectionChanged() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <wx/panel.h>
+#include <wx/timer.h>
 
 #include <string>
 #include <string_view>
@@ -69,6 +70,9 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
   std::string status(StatusField field) const override;
   void inform(const std::string& title, const std::string& text, BoxIcon icon) override;
   bool ask(const std::string& title, const std::string& text, bool defaultYes) override;
+  int popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) override;
+  void startFlashTimer(int milliseconds) override;
+  void stopFlashTimer() override;
   void selectionChanged() override;
   void markDirty() override;
   void noteCanvasClick(Vec2 world) override;
@@ -77,6 +81,7 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
   // A window's paints all measure alike, so what one of them measured serves the next.
   TextExtents textExtents_{.alikeDevices = true};
   CanvasState state_;
+  wxTimer flashTimer_;
   // Space as told by key events: the state of a key can't be asked for on every display.
   bool spaceHeld_ = false;
 };

@@ -2,12 +2,23 @@
 
 #include <span>
 
+#include "canvas/gestures/alt_rotation.h"
+#include "canvas/gestures/annotation_moves.h"
 #include "canvas/gestures/click_tools.h"
+#include "canvas/gestures/cloning.h"
+#include "canvas/gestures/context_menu.h"
+#include "canvas/gestures/deleting.h"
+#include "canvas/gestures/gesture_end.h"
 #include "canvas/gestures/helix_placement.h"
 #include "canvas/gestures/palette_drag.h"
 #include "canvas/gestures/panning.h"
+#include "canvas/gestures/rubber_band.h"
+#include "canvas/gestures/scale_handles.h"
 #include "canvas/gestures/scenery_drag.h"
+#include "canvas/gestures/selecting.h"
+#include "canvas/gestures/selection_drag.h"
 #include "canvas/gestures/status_line.h"
+#include "canvas/gestures/step_rotation.h"
 #include "canvas/gestures/wheel_zoom.h"
 #include "render2d/contents_drawing.h"
 #include "render2d/rulers.h"
@@ -33,41 +44,61 @@ using PointerStep = bool (*)(CanvasContext&, const PointerEvent&);
 using KeyStep = bool (*)(CanvasContext&, const KeyEvent&);
 using PaintStep = void (*)(const CanvasContext&, wxDC&);
 
+bool endMissedGesture(CanvasContext& context, const PointerEvent& event);
+
 // In each list the first step that takes the event ends it.
 
 constexpr PointerStep kLeftPress[] = {
-    takeFocus,
-    clickToolPress,
-    dropDraggedPiece,
-    dropDraggedScenery,
+    takeFocus,  // takes nothing
+    clickToolPress,   pressMeasurement, pressShape,         pressScaleHandle, pressAltRotate,
+    swallowPress,     dropDraggedPiece, dropDraggedScenery, pressLabel,       pressPiece,
+    pressDeckOutline, pressScenery,     pressEmptyCanvas,
 };
 
 constexpr PointerStep kMotion[] = {
     showPointerPosition,  // takes nothing
+    endMissedGesture,     // takes nothing
     clickToolMotion,      // ends the list for every motion while a tool is armed
+    shapeMoveMotion,
+    measureMoveMotion,
+    hoverScaleHandle,  // takes nothing
+    sceneryResizeMotion,
+    deckDragMotion,
     buttonPanMotion,
     spacePanMotion,
+    labelDragMotion,
+    selectionPendingMotion,
+    altRotateMotion,
     // Without a button: what hangs at the pointer follows it.
     paletteDragMotion,
     sceneryDragMotion,
+    selectionDragMotion,
+    rubberBandMotion,
 };
 
-constexpr PointerStep kLeftRelease[] = {endPans};
+constexpr PointerStep kLeftRelease[] = {
+    endShapeMove,        endMeasureMove, endDeckDrag,   endSceneryResize, endAltRotate,
+    endSelectionPending,  // takes nothing
+    endLabelDrag,        endPans,        endRubberBand, endSelectionDrag,
+};
+
+constexpr PointerStep kDoubleClick[] = {cloneFromPiece};
 
 constexpr PointerStep kMiddlePress[] = {beginButtonPan};
 constexpr PointerStep kMiddleRelease[] = {endButtonPan};
 
-constexpr PointerStep kRightPress[] = {paletteDragRightPress, sceneryDragRightPress};
+constexpr PointerStep kRightPress[] = {paletteDragRightPress, sceneryDragRightPress, altRightPress,
+                                       contextMenuPress};
 
 // Turning comes before zooming, so the view stays while something hangs at the pointer.
-constexpr PointerStep kWheel[] = {paletteDragWheel, sceneryDragWheel, wheelZoom};
+constexpr PointerStep kWheel[] = {paletteDragWheel, sceneryDragWheel, selectionWheel, wheelZoom};
 
-constexpr KeyStep kKeys[] = {paletteDragKey, sceneryDragKey};
+constexpr KeyStep kKeys[] = {paletteDragKey, sceneryDragKey, escapeKey, deleteKey};
 constexpr KeyStep kCharacters[] = {zoomByCharacter};
 
 constexpr PaintStep kPaint[] = {
-    drawContents,    drawRulerBands,  showGradeRuns,
-    drawPaletteDrag, drawSceneryDrag, drawHelixPlacement,
+    drawContents,      drawRulerBands,  drawScaleHandles, showGradeRuns,      drawRubberBand,
+    drawSelectionDrag, drawPaletteDrag, drawSceneryDrag,  drawHelixPlacement, drawAltRotate,
 };
 
 template <typename Step, typename Event>
@@ -89,6 +120,13 @@ bool OfferRelease(std::span<const PointerStep> steps, CanvasContext& context,
   return taken;
 }
 
+// A release that went elsewhere, to a box or to another window: the gesture ends with the first
+// motion that comes without the button.
+bool endMissedGesture(CanvasContext& context, const PointerEvent& event) {
+  if (!event.leftDown && isLeftGestureActive(context.state)) onLeftRelease(context, event);
+  return false;
+}
+
 }  // namespace
 
 bool onLeftPress(CanvasContext& context, const PointerEvent& event) {
@@ -101,6 +139,10 @@ bool onMotion(CanvasContext& context, const PointerEvent& event) {
 
 bool onLeftRelease(CanvasContext& context, const PointerEvent& event) {
   return OfferRelease(kLeftRelease, context, event);
+}
+
+bool onDoubleClick(CanvasContext& context, const PointerEvent& event) {
+  return Offer(kDoubleClick, context, event);
 }
 
 bool onMiddlePress(CanvasContext& context, const PointerEvent& event) {
@@ -131,9 +173,16 @@ bool onCharacter(CanvasContext& context, const KeyEvent& event) {
   return Offer<KeyStep, KeyEvent>(kCharacters, context, event);
 }
 
-// What hangs at the pointer goes on following it without the capture; nothing is lost.
+// What hangs at the pointer goes on following it without the capture, and what was moved stays
+// where it is; nothing is lost. A band has selected nothing yet.
 void onCaptureLost(CanvasContext& context) {
   abandonButtonPan(context);
+  cancelRubberBand(context);
+  if (isLeftGestureActive(context.state)) onLeftRelease(context, {});
+}
+
+void onFlashTimer(CanvasContext& context) {
+  endRotationFlash(context);
 }
 
 void paintCanvas(const CanvasContext& context, wxDC& dc) {

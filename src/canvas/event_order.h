@@ -11,6 +11,8 @@ namespace vantrel {
 
 // Each offers the event to its list; true when a gesture took it.
 bool onLeftPress(CanvasContext& context, const PointerEvent& event);
+// The second of two quick presses.
+bool onDoubleClick(CanvasContext& context, const PointerEvent& event);
 bool onMotion(CanvasContext& context, const PointerEvent& event);
 bool onLeftRelease(CanvasContext& context, const PointerEvent& event);
 bool onMiddlePress(CanvasContext& context, const PointerEvent& event);
@@ -24,6 +26,9 @@ bool onCharacter(CanvasContext& context, const KeyEvent& event);
 
 // The mouse was taken away by another window or a dialog.
 void onCaptureLost(CanvasContext& context);
+
+// The time that startFlashTimer asked for has passed.
+void onFlashTimer(CanvasContext& context);
 
 // One whole frame of the canvas, bottom to top.
 void paintCanvas(const CanvasContext& context, wxDC& dc);

@@ -4,9 +4,14 @@
 #include <wx/toolbar.h>
 
 #include <cstdint>
+#include <optional>
+#include <string>
 
 #include "canvas/canvas_panel.h"
+#include "canvas/gestures/lock_boxes.h"
 #include "canvas/gestures/view_navigation.h"
+#include "canvas/operations/locks.h"
+#include "canvas/operations/removal.h"
 #include "doc/layout_ops.h"
 #include "doc/undo.h"
 #include "frame/commands.h"
@@ -41,6 +46,23 @@ void MainFrame::onRedo(wxCommandEvent&) {
   Redo(layout_);
   setStatus(kStatusPieces, PiecesText(layout_.pieces.size()));
   refreshViews();
+  markDirty();
+}
+
+// A simpler twin of the canvas's own Delete: it refuses helices selected as a whole, and leaves
+// partners of paired pieces alone.
+void MainFrame::onDelete(wxCommandEvent&) {
+  if (const std::optional<Notice> lock = selectionLock(layout_, "delete")) {
+    Inform(this, lock->title, lock->text);
+    return;
+  }
+  if (isGradedSelection(layout_) &&
+      !AskQuestion(this, std::string(kGradedDeleteTitle), std::string(kGradedDeleteQuestion)))
+    return;
+  deleteSelection(layout_);
+  setStatus(kStatusPieces, PiecesText(layout_.pieces.size()));
+  refreshViews();
+  selectionChanged();
   markDirty();
 }
 

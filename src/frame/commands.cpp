@@ -27,8 +27,8 @@ constexpr Command kCommands[] = {
 
     {.id = kCmdUndo, .place = edit, .label = "&Undo\tCtrl+Z"},
     {.id = kCmdRedo, .place = edit, .label = "&Redo\tCtrl+Y", .separatorAfter = true},
-    {.id = kCmdDelete, .place = edit, .label = "&Delete\tDel", .available = false},
-    {.id = kCmdSelectAll, .place = edit, .label = "Select &All\tCtrl+A", .available = false},
+    {.id = kCmdDelete, .place = edit, .label = "&Delete\tDel"},
+    {.id = kCmdSelectAll, .place = edit, .label = "Select &All\tCtrl+A"},
 
     {.id = kCmdZoomIn, .place = view, .label = "Zoom &In\t+"},
     {.id = kCmdZoomOut, .place = view, .label = "Zoom &Out\t-"},

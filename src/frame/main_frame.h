@@ -93,6 +93,7 @@ class MainFrame : public wxFrame, public Workspace {
   void onExit(wxCommandEvent& event);
   void onUndo(wxCommandEvent& event);
   void onRedo(wxCommandEvent& event);
+  void onDelete(wxCommandEvent& event);
   void onSelectAll(wxCommandEvent& event);
   void onZoomIn(wxCommandEvent& event);
   void onZoomOut(wxCommandEvent& event);

@@ -244,7 +244,8 @@ TEST_F(CanvasWindow, RAndEscReachTheDrag) {
   EXPECT_TRUE(key(wxEVT_KEY_DOWN, WXK_ESCAPE));
   EXPECT_FALSE(canvas->state().paletteDrag.active);
   EXPECT_FALSE(canvas->HasCapture());
-  EXPECT_FALSE(key(wxEVT_KEY_DOWN, WXK_ESCAPE));
+  // From now on it clears the selection.
+  EXPECT_TRUE(key(wxEVT_KEY_DOWN, WXK_ESCAPE));
 }
 
 TEST_F(CanvasWindow, SpaceHeldWithTheLeftButtonPans) {

@@ -46,9 +46,25 @@ void RecordingHost::inform(const std::string& title, const std::string& text, Bo
   boxes.push_back({title, text, icon});
 }
 
-bool RecordingHost::ask(const std::string& title, const std::string& text, bool) {
+bool RecordingHost::ask(const std::string& title, const std::string& text, bool defaultYes) {
   boxes.push_back({title, text, BoxIcon::question});
+  defaults.push_back(defaultYes);
   return answer;
+}
+
+int RecordingHost::popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) {
+  menus.emplace_back(entries.begin(), entries.end());
+  menuAt = at;
+  return choice;
+}
+
+void RecordingHost::startFlashTimer(int milliseconds) {
+  timerMs = milliseconds;
+  ++timerStarts;
+}
+
+void RecordingHost::stopFlashTimer() {
+  timerMs = 0;
 }
 
 void RecordingHost::selectionChanged() {

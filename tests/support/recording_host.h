@@ -28,6 +28,12 @@ class RecordingHost : public CanvasHost {
   std::vector<CanvasCursor> cursors;  // all that were set, in order
   std::vector<RecordedBox> boxes;
   bool answer = false;  // what `ask` returns
+  std::vector<bool> defaults;  // the default answers of the questions, in order
+  std::vector<std::vector<MenuEntry>> menus;  // all that popped up, in order
+  DevicePoint menuAt;
+  int choice = 0;     // what `popUpMenu` returns
+  int timerMs = 0;    // of the flash timer when it runs, else 0
+  int timerStarts = 0;
   std::vector<Vec2> canvasClicks;
 
   CanvasCursor cursor() const { return cursors.empty() ? CanvasCursor::normal : cursors.back(); }
@@ -43,6 +49,9 @@ class RecordingHost : public CanvasHost {
   std::string status(StatusField field) const override;
   void inform(const std::string& title, const std::string& text, BoxIcon icon) override;
   bool ask(const std::string& title, const std::string& text, bool defaultYes) override;
+  int popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) override;
+  void startFlashTimer(int milliseconds) override;
+  void stopFlashTimer() override;
   void selectionChanged() override;
   void markDirty() override;
   void noteCanvasClick(Vec2 world) override;

@@ -2,6 +2,7 @@
 // implement it with a recorder.
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "doc/view_transform.h"
@@ -12,6 +13,13 @@ namespace vantrel {
 enum class CanvasCursor { normal, cross, hand, sizeNwse, sizeNs, sizeNesw, sizeWe };
 
 enum class BoxIcon { information, exclamation, warning, question, error };
+
+// An entry of a context menu.
+struct MenuEntry {
+  int id = 0;
+  std::string label;
+  bool enabled = true;
+};
 
 class CanvasHost {
  public:
@@ -32,6 +40,13 @@ class CanvasHost {
   // Message boxes with the frame as parent. `ask` is a Yes/No question, true for Yes.
   virtual void inform(const std::string& title, const std::string& text, BoxIcon icon) = 0;
   virtual bool ask(const std::string& title, const std::string& text, bool defaultYes) = 0;
+
+  // Pops a menu up at a client point; the id of the entry taken, or 0.
+  virtual int popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) = 0;
+
+  // One timer: calls onFlashTimer once after this time, unless it is started anew or stopped.
+  virtual void startFlashTimer(int milliseconds) = 0;
+  virtual void stopFlashTimer() = 0;
 
   virtual void selectionChanged() = 0;
   virtual void markDirty() = 0;

@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include "canvas/gestures/rubber_band.h"
+
 namespace vantrel {
 namespace {
 
@@ -71,7 +73,9 @@ bool spacePanMotion(CanvasContext& context, const PointerEvent& event) {
     MoveView(context, pan, event.at);
     return true;
   }
-  if (!event.spaceDown || !event.leftDown || context.state.paletteDrag.active) return false;
+  if (!event.spaceDown || !event.leftDown) return false;
+  if (context.state.paletteDrag.active || context.state.selectionDrag.active) return false;
+  cancelRubberBand(context);
   RecordStart(pan, context.state.view, event.at);
   context.host.setCursor(CanvasCursor::hand);
   return true;

@@ -15,7 +15,8 @@ bool beginButtonPan(CanvasContext& context, const PointerEvent& event);
 bool buttonPanMotion(CanvasContext& context, const PointerEvent& event);
 
 // Starts at the first motion with Space and the left button unless a piece from the palette hangs
-// at the pointer; has no threshold; goes on until the button is up.
+// at the pointer or the selection is being dragged; ends a rubber band; has no threshold; goes on
+// until the button is up.
 bool spacePanMotion(CanvasContext& context, const PointerEvent& event);
 
 // A left release ends both, a middle release the button pan.

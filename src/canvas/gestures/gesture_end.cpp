@@ -1,0 +1,11 @@
+#include "canvas/gestures/gesture_end.h"
+
+namespace vantrel {
+
+bool isLeftGestureActive(const CanvasState& state) {
+  return state.shapeMove.active || state.measureMove.active || state.deckDrag.active ||
+         state.sceneryResize.active || state.altRotate.active || state.selectionPending.active ||
+         state.labelDrag.active || state.rubberBand.active || state.selectionDrag.active;
+}
+
+}  // namespace vantrel

@@ -1,0 +1,150 @@
+// The handles of the single selected scenery item.
+#include "canvas/gestures/scale_handles.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "canvas/gestures/scenery_drag.h"
+#include "catalog/scenery_catalog.h"
+#include "tests/gestures/editing_driver.h"
+
+namespace vantrel {
+namespace {
+
+class ScaleHandles : public EditingTest {
+ protected:
+  double width = 0.0;
+  double depth = 0.0;
+  // A platform around (500, 400), selected.
+  void SetUp() override {
+    EditingTest::SetUp();
+    const SceneryDef* const def = findScenery("platform");
+    ASSERT_NE(def, nullptr);
+    ASSERT_EQ(def->category, 0);
+    width = def->width;
+    depth = def->depth;
+    layScenery("platform", {500.0, 400.0, 0.0});
+    layout.scenery[0].sel = true;
+  }
+  SceneryItem& item() { return layout.scenery[0]; }
+  int right() const { return static_cast<int>(500.0 + width / 2.0); }
+  int left() const { return static_cast<int>(500.0 - width / 2.0); }
+  int bottom() const { return static_cast<int>(400.0 + depth / 2.0); }
+  int top() const { return static_cast<int>(400.0 - depth / 2.0); }
+};
+
+TEST_F(ScaleHandles, TheCursorTellsOverWhichHandleThePointerIs) {
+  const std::pair<DevicePoint, CanvasCursor> expected[] = {
+      {{left(), top()}, CanvasCursor::sizeNwse},     {{500, top()}, CanvasCursor::sizeNs},
+      {{right(), top()}, CanvasCursor::sizeNesw},    {{right(), 400}, CanvasCursor::sizeWe},
+      {{right(), bottom()}, CanvasCursor::sizeNwse}, {{500, bottom()}, CanvasCursor::sizeNs},
+      {{left(), bottom()}, CanvasCursor::sizeNesw},  {{left(), 400}, CanvasCursor::sizeWe}};
+  for (const auto& [point, cursor] : expected) {
+    move(point.x, point.y);
+    EXPECT_EQ(host.cursor(), cursor);
+  }
+  move(900, 900);
+  EXPECT_EQ(host.cursor(), CanvasCursor::normal);
+}
+
+TEST_F(ScaleHandles, WithAButtonOrSomethingAtThePointerTheCursorStays) {
+  held.middleDown = true;
+  move(right(), 400);
+  EXPECT_TRUE(host.cursors.empty());
+  held.middleDown = false;
+  beginSceneryDrag(context, "platform");
+  move(right(), 400);
+  EXPECT_TRUE(host.cursors.empty());
+}
+
+TEST_F(ScaleHandles, AnEdgeHandleChangesItsAxisAndTheOppositeEdgeStays) {
+  pressLeft(right(), 400);
+  EXPECT_TRUE(host.captured);
+  EXPECT_EQ(layout.undoHistory.size(), 1u);
+  const double fixed = 500.0 - width / 2.0;
+  move(right() + 100, 777);
+  EXPECT_NEAR(item().scalex, (right() + 100 - fixed) / width, 1e-9);
+  EXPECT_EQ(item().scaley, 1.0);
+  EXPECT_NEAR(item().x - item().scalex * width / 2.0, fixed, 1e-9);
+  EXPECT_NEAR(item().y, 400.0, 1e-9);
+  EXPECT_GT(item().x, 500.0);
+  releaseLeft(right() + 100, 777);
+  EXPECT_FALSE(host.captured);
+  EXPECT_EQ(host.dirtyMarks, 2);
+  EXPECT_FALSE(state.sceneryResize.active);
+}
+
+TEST_F(ScaleHandles, ACornerOfATurnedItemChangesBothAxesInItsOwnFrame) {
+  item().heading = 90.0;
+  // Handle 4 (both signs positive), turned by 90 degrees: (-depth / 2, width / 2) from the middle.
+  const int x = static_cast<int>(500.0 - depth / 2.0);
+  const int y = static_cast<int>(400.0 + width / 2.0);
+  pressLeft(x, y);
+  EXPECT_EQ(state.sceneryResize.handle, 4);
+  // The fixed corner lies at (500 + depth / 2, 400 - width / 2).
+  const Vec2 fixed{500.0 + depth / 2.0, 400.0 - width / 2.0};
+  move(static_cast<int>(fixed.x) - 50, static_cast<int>(fixed.y) + 300);
+  // 300 pixels down are its width, 50 to the left its depth, but for what whole pixels leave.
+  EXPECT_NEAR(item().scalex * width, 300.0, 1.0);
+  EXPECT_NEAR(item().scaley * depth, 50.0, 1.0);
+  EXPECT_NEAR(item().x, fixed.x - item().scaley * depth / 2.0, 1e-9);
+  EXPECT_NEAR(item().y, fixed.y + item().scalex * width / 2.0, 1e-9);
+}
+
+TEST_F(ScaleHandles, AnItemStopsShrinkingAtFiveMillimetres) {
+  pressLeft(right(), bottom());
+  move(left() + 1, top() + 1);
+  EXPECT_NEAR(item().scalex * width, 5.0, 1e-9);
+  EXPECT_NEAR(item().scaley * depth, 5.0, 1e-9);
+}
+
+TEST_F(ScaleHandles, APressTakesAnUndoStepEvenIfThePointerDoesNotMove) {
+  clickLeft(left(), top());
+  EXPECT_EQ(layout.undoHistory.size(), 1u);
+  EXPECT_EQ(item().scalex, 1.0);
+  EXPECT_EQ(item().pose(), (Pose{500.0, 400.0, 0.0}));
+}
+
+TEST_F(ScaleHandles, WithAltTheItemIsTurnedInstead) {
+  held.mods.alt = true;
+  pressLeft(right(), 400);
+  EXPECT_FALSE(state.sceneryResize.active);
+  EXPECT_TRUE(state.altRotate.active);
+}
+
+TEST_F(ScaleHandles, WhenTheItemVanishesTheGestureEndsAndGivesTheMouseBack) {
+  pressLeft(right(), 400);
+  layout.scenery.clear();
+  move(right() + 50, 400);
+  EXPECT_FALSE(state.sceneryResize.active);
+  EXPECT_FALSE(host.captured);
+}
+
+TEST_F(ScaleHandles, ItemsOfOtherCategoriesAndSeveralItemsHaveNone) {
+  layScenery("platform", {500.0, 900.0, 0.0});
+  layout.scenery[1].sel = true;
+  pressLeft(right(), 400);
+  EXPECT_FALSE(state.sceneryResize.active);
+}
+
+TEST_F(ScaleHandles, CornersAreDrawnAsSquaresAndEdgesAsCircles) {
+  layout.gridVisible = false;
+  const std::unique_ptr<RecordingDC> dc = paint();
+  std::vector<DrawCall> handles;
+  for (const DrawCall& call : dc->calls())
+    if (call.pen.colour == Rgba{40, 90, 200, 255} && call.brush.colour == Rgba{255, 255, 255, 255})
+      handles.push_back(call);
+  ASSERT_EQ(handles.size(), 8u);
+  EXPECT_EQ(handles[0].op, DrawOp::rectangle);
+  EXPECT_EQ(handles[0].box, wxRect(left() - 4, top() - 4, 9, 9));
+  EXPECT_EQ(handles[1].op, DrawOp::ellipse);
+  EXPECT_EQ(handles[1].box, wxRect(500 - 3, top() - 3, 6, 6));
+  EXPECT_EQ(handles[4].box, wxRect(right() - 4, bottom() - 4, 9, 9));
+  layout.scenery[0].sel = false;
+  for (const DrawCall& call : paint()->calls())
+    EXPECT_NE(call.pen.colour, (Rgba{40, 90, 200, 255}));
+}
+
+}  // namespace
+}  // namespace vantrel
