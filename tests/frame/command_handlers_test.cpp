@@ -112,11 +112,70 @@ TEST_F(CommandHandlers, RedoMarksTheLayoutChangedEvenWithoutAHistory) {
   EXPECT_TRUE(frame().dirty());
 }
 
-TEST_F(CommandHandlers, DeleteStaysDisabledUntilItIsBuilt) {
-  addPiece().sel = true;
+TEST_F(CommandHandlers, DeleteIsEnabledByASelectedPieceOrItemOnly) {
+  addPiece();
+  plan().scenery.emplace_back();
+  plan().labels.emplace_back().sel = true;
+  plan().shapes.emplace_back().sel = true;
+  plan().measurements.emplace_back().sel = true;
   updateStates();
   EXPECT_FALSE(menuEnabled(2004));
-  EXPECT_FALSE(tool(2012).IsEnabled());
+  plan().scenery[0].sel = true;
+  updateStates();
+  EXPECT_TRUE(menuEnabled(2004));
+  plan().scenery[0].sel = false;
+  plan().pieces[0].sel = true;
+  updateStates();
+  EXPECT_TRUE(menuEnabled(2004));
+}
+
+TEST_F(CommandHandlers, DeleteRemovesTheSelectionAsOneStepAndTellsEveryone) {
+  addPiece();
+  addPiece().sel = true;
+  command(2004);
+  ASSERT_EQ(plan().pieces.size(), 1u);
+  EXPECT_EQ(plan().pieces[0].id, 1);
+  EXPECT_EQ(plan().undoHistory.size(), 1u);
+  EXPECT_TRUE(frame().dirty());
+  EXPECT_EQ(statusText(kStatusPieces), "Pieces: 1");
+}
+
+TEST_F(CommandHandlers, DeleteAsksAboutGradedTrack) {
+  addPiece().sel = true;
+  plan().pieces[0].grade = 2.0;
+  ModalScript script;
+  script.box("Delete", "Selection includes graded pieces. Delete?", wxYES_NO | wxICON_QUESTION,
+             wxID_NO);
+  command(2004);
+  EXPECT_EQ(plan().pieces.size(), 1u);
+  EXPECT_TRUE(plan().undoHistory.empty());
+  script.box("Delete", "Selection includes graded pieces. Delete?", wxYES_NO | wxICON_QUESTION,
+             wxID_YES);
+  command(2004);
+  EXPECT_TRUE(plan().pieces.empty());
+}
+
+TEST_F(CommandHandlers, DeleteFromTheMenuRefusesEvenAHelixSelectedAsAWhole) {
+  for (int i = 0; i < 4; ++i) {
+    addPiece().helix = 9;
+    plan().pieces.back().sel = true;
+  }
+  ModalScript script;
+  script.box("Helix track is locked",
+             "Selection includes track that is part of a helix. Helix track cannot be deleteed "
+             "individually.",
+             wxOK | wxICON_INFORMATION, wxID_OK);
+  command(2004);
+  EXPECT_EQ(plan().pieces.size(), 4u);
+  EXPECT_TRUE(plan().undoHistory.empty());
+}
+
+TEST_F(CommandHandlers, SelectAllTakesPiecesOfAHiddenLevelToo) {
+  plan().levels = {Level{}};
+  plan().levels[0].visible = false;
+  addPiece();
+  command(2005);
+  EXPECT_TRUE(plan().pieces[0].sel);
 }
 
 TEST_F(CommandHandlers, SelectAllTakesPiecesAndSceneryAndNoAnnotations) {
