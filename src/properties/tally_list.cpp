@@ -82,9 +82,10 @@ wxItemAttr* TallyList::OnGetItemAttr(long item) const {
 
 // The counts are as wide as they need, the descriptions take the room that is left.
 void TallyList::fitColumns() {
-  int count = kCountWidth;
+  std::string longest;  // digits are all alike: measuring one text per change is enough
   for (const TallyRow& row : rows_)
-    count = std::max(count, GetTextExtent(row.count).x + kCellPadding);
+    if (row.count.size() > longest.size()) longest = row.count;
+  const int count = std::max(kCountWidth, GetTextExtent(longest).x + kCellPadding);
   const int piece = std::max(kPieceWidth, GetClientSize().x - count);
   if (GetColumnWidth(kCountColumn) != count) SetColumnWidth(kCountColumn, count);
   if (GetColumnWidth(kPieceColumn) != piece) SetColumnWidth(kPieceColumn, piece);
