@@ -2,6 +2,7 @@
 // beside a plain copy of the poses and the search for a single piece.
 #include <benchmark/benchmark.h>
 
+#include <cmath>
 #include <cstddef>
 #include <vector>
 
@@ -61,6 +62,17 @@ Layout OpenYard() {
   Layout layout = JoinedYard();
   for (Piece& piece : layout.pieces)
     for (Joint& joint : piece.joints) joint = Joint{};
+  return layout;
+}
+
+// The worst that can be: every piece open, and all of them in a heap of 150 mm.
+Layout Heap() {
+  Layout layout = OpenYard();
+  for (Piece& piece : layout.pieces) {
+    piece.x = std::fmod(piece.x, 150.0);
+    piece.y = std::fmod(piece.y, 150.0);
+    piece.heading = 15.0 * (piece.id % 24);
+  }
   return layout;
 }
 
@@ -137,6 +149,7 @@ void OneMotion(benchmark::State& state) {
 BENCHMARK(OneMotion<JoinedYard>)->Unit(benchmark::kMicrosecond);
 BENCHMARK(OneMotion<OpenYard>)->Unit(benchmark::kMicrosecond);
 BENCHMARK(OneMotion<Comb>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(OneMotion<Heap>)->Unit(benchmark::kMicrosecond);
 
 void CopyThePieces(benchmark::State& state) {
   const Layout layout = JoinedYard();
@@ -180,6 +193,7 @@ void Drop(benchmark::State& state) {
 }
 BENCHMARK(Drop<JoinedYard>)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Drop<Comb>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Drop<Heap>)->Unit(benchmark::kMicrosecond);
 
 void TurnOneStep(benchmark::State& state) {
   Layout layout = JoinedYard();
