@@ -12,6 +12,7 @@
 
 #include "canvas/event_order.h"
 #include "canvas/gestures/deleting.h"
+#include "canvas/gestures/helix_placement.h"
 #include "canvas/gestures/palette_drag.h"
 #include "canvas/gestures/scenery_drag.h"
 #include "canvas/gestures/view_navigation.h"
@@ -235,8 +236,15 @@ void CanvasPanel::beginSceneryDrag(std::string_view item) {
   vantrel::beginSceneryDrag(canvas, item);
 }
 
-// Only the palette's double click places a helix so far.
-void CanvasPanel::beginHelixDrag(std::string_view) {}
+void CanvasPanel::beginHelixDrag(std::string_view kitId) {
+  CanvasContext canvas = context();
+  beginHelixPlacement(canvas, kitId);
+}
+
+void CanvasPanel::placeHelix(std::string_view kitId, const Pose& pose) {
+  CanvasContext canvas = context();
+  placeHelixAt(canvas, kitId, pose);
+}
 
 void CanvasPanel::placeByDoubleClick(std::string_view part) {
   CanvasContext canvas = context();

@@ -38,6 +38,9 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
   // The cross of the tools that click points, or the normal arrow.
   void setToolCursor(bool cross);
 
+  // Places a helix kit at a world pose, without a preview.
+  void placeHelix(std::string_view kitId, const Pose& pose);
+
   void beginPieceDrag(std::string_view part) override;
   void beginSceneryDrag(std::string_view item) override;
   void beginHelixDrag(std::string_view kitId) override;

@@ -50,9 +50,9 @@ bool endMissedGesture(CanvasContext& context, const PointerEvent& event);
 
 constexpr PointerStep kLeftPress[] = {
     takeFocus,  // takes nothing
-    clickToolPress,   pressMeasurement, pressShape,         pressScaleHandle, pressAltRotate,
-    swallowPress,     dropDraggedPiece, dropDraggedScenery, pressLabel,       pressPiece,
-    pressDeckOutline, pressScenery,     pressEmptyCanvas,
+    clickToolPress, pressMeasurement, pressShape,         pressScaleHandle, pressAltRotate,
+    swallowPress,   dropDraggedPiece, dropDraggedScenery, dropHelix,        pressLabel,
+    pressPiece,     pressDeckOutline, pressScenery,       pressEmptyCanvas,
 };
 
 constexpr PointerStep kMotion[] = {
@@ -72,6 +72,7 @@ constexpr PointerStep kMotion[] = {
     // Without a button: what hangs at the pointer follows it.
     paletteDragMotion,
     sceneryDragMotion,
+    helixPlacementMotion,
     selectionDragMotion,
     rubberBandMotion,
 };

@@ -116,8 +116,9 @@ std::string MainFrame::status(StatusField field) const {
   return GetStatusBar() ? ToUtf8(GetStatusBar()->GetStatusText(field)) : std::string();
 }
 
-// Kits can be looked at in the palette, but not be placed yet.
-void MainFrame::placeHelix(std::string_view, const Pose&) {}
+void MainFrame::placeHelix(std::string_view kitId, const Pose& pose) {
+  canvas_->placeHelix(kitId, pose);
+}
 
 std::string MainFrame::shownName() const {
   return layoutName_.empty() ? BaseName(currentPath_) : layoutName_;

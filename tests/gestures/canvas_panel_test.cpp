@@ -364,10 +364,19 @@ TEST_F(CanvasWindow, TheToolCursorIsTheCross) {
   EXPECT_FALSE(canvas->GetCursor().IsOk());
 }
 
-TEST_F(CanvasWindow, AHelixDragDoesNothingYet) {
+TEST_F(CanvasWindow, AHelixDragHangsTheKitAtThePointer) {
   canvas->beginHelixDrag("proses_2_5_r1r2");
-  EXPECT_FALSE(canvas->state().helixPlacement.active);
+  EXPECT_TRUE(canvas->state().helixPlacement.active);
+  EXPECT_TRUE(canvas->HasCapture());
+  canvas->cancelPaletteDrag();
   EXPECT_FALSE(canvas->HasCapture());
+}
+
+TEST_F(CanvasWindow, AHelixIsPlacedWithoutAPreviewToo) {
+  canvas->placeHelix("proses_2_5_r1r2", {500.0, 500.0, 0.0});
+  EXPECT_EQ(workspace.document.helices.size(), 1u);
+  EXPECT_FALSE(canvas->state().helixPlacement.active);
+  EXPECT_EQ(workspace.dirtyMarks, 1);
 }
 
 }  // namespace

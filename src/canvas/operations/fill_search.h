@@ -25,9 +25,9 @@ struct FillSolution {
 // catalog's first. No bridges and no pieces with a function of their own.
 std::vector<const PieceDef*> fillCandidates(TrackSystem system);
 
-// The rows of `candidates` (as fillCandidates orders them) that are as long as the gap, in the order
-// in which they are found: fewest pieces first, then those with the longest pieces. Each choice of
-// pieces comes once. At most 64, and none of more than 32 pieces.
+// The rows of `candidates` (as fillCandidates orders them) that are as long as the gap, in the
+// order in which they are found: fewest pieces first, then those with the longest pieces. Each
+// choice of pieces comes once. At most 64, and none of more than 32 pieces.
 std::vector<FillSolution> searchFills(std::span<const PieceDef* const> candidates, double gap);
 
 // Fewest pieces first, then the closest fit; of equals the one found first. Keeps the best 12.
