@@ -98,9 +98,18 @@ TEST_F(HelixPlacing, AKitThatNobodyKnowsIsPlacedAsTheDefault) {
   EXPECT_EQ(layout.helices[0].variant, "proses_2_5_r1r2");
 }
 
-TEST_F(HelixPlacing, EscAndTheRightButtonLeaveItHanging) {
+TEST_F(HelixPlacing, EscDeselectsAndThePreviewStays) {
+  lay("24188", {0.0, 0.0, 0.0});
+  layout.pieces[0].sel = true;
   beginHelixPlacement(context, "proses_2_5_r1r2");
-  key(WXK_ESCAPE);
+  EXPECT_TRUE(key(WXK_ESCAPE));
+  EXPECT_FALSE(layout.pieces[0].sel);
+  EXPECT_TRUE(placement().active);
+  EXPECT_TRUE(host.captured);
+}
+
+TEST_F(HelixPlacing, TheRightButtonLeavesItHanging) {
+  beginHelixPlacement(context, "proses_2_5_r1r2");
   pressRight(300, 200);
   EXPECT_TRUE(placement().active);
   EXPECT_EQ(placement().kit, "proses_2_5_r1r2");
