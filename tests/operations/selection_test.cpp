@@ -195,6 +195,17 @@ TEST(ClickPiece, OnATurntableBringsTheWholeHelixOfAStubJoinedToIt) {
   EXPECT_EQ(SelectedIds(layout), (Ids{1, 2, 3, 4, 5}));
 }
 
+TEST(ClickPiece, OnATurntableInAHelixGoesByTheHelix) {
+  Layout layout;
+  LayStubs(layout, 70, 3);
+  const std::int32_t table = LayPiece(layout, "74861", {});
+  layout.pieces.back().helix = 70;
+  const std::int32_t spoke = LayPiece(layout, "74871", {139.0, 0.0, 0.0});
+  joinPieces(layout, table, 0, spoke, 0);
+  clickPiece(layout, table);
+  EXPECT_EQ(SelectedIds(layout), (Ids{1, 2, 3, table}));
+}
+
 TEST(ClickPiece, OnASpokeDoesntSelectItsTurntable) {
   Layout layout;
   const std::int32_t table = LayPiece(layout, "74861", {});
