@@ -7,7 +7,10 @@
 namespace vantrel {
 
 // The model of a part in the piece's frame (+y as on the canvas, z up): ballasted strips, with the
-// structure of a bridge or ramp, the turntable's pit, or the end stop.
+// structure of a bridge or ramp, the turntable's pit, or the end stop. In the frame's own numbers
+// fronts run counter-clockwise and normals point outward. An instance mirrors y as it is drawn: its
+// normals are mirrored along and still point outward, so the light falls right, but its fronts then
+// run clockwise. So track must be drawn without culling of faces.
 Model makeTrackModel(const PieceDef& def);
 
 // The bowstring arch and the truss of a bridge of this length in mm, from x 0 along x.
