@@ -1,25 +1,66 @@
+// What the panel shows and what it does; how it is put together stands in build_controls.cpp.
 #include "properties/properties_panel.h"
 
-#include <wx/sizer.h>
+#include <wx/button.h>
+#include <wx/choice.h>
+#include <wx/radiobut.h>
+#include <wx/settings.h>
+#include <wx/spinctrl.h>
 #include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include <cstdint>
+#include <string>
+#include <utility>
+
+#include "canvas/operations/grades.h"
+#include "inspection/page_texts.h"
+#include "inspection/selection_edits.h"
+#include "properties/text.h"
+#include "properties/warning_colour.h"
+#include "properties/wrapped_label.h"
 
 namespace vantrel {
 namespace {
 
-constexpr int kHeadingBorder = 8;  // pixels
+// Setting a label anew, even to the same text, makes it flicker. True when it changed.
+bool SetTextOf(wxStaticText& control, std::string_view text) {
+  const wxString shown = ShownText(text);
+  if (control.GetLabelText() == shown) return false;
+  control.SetLabelText(shown);
+  return true;
+}
+
+void SetColourOf(wxWindow& control, const wxColour& colour) {
+  if (control.GetForegroundColour() == colour) return;
+  control.SetForegroundColour(colour);
+  control.Refresh();
+}
+
+void* ClientData(std::int32_t id) {
+  return reinterpret_cast<void*>(static_cast<std::intptr_t>(id));
+}
+
+std::int32_t IdFrom(const void* clientData) {
+  return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(clientData));
+}
 
 }  // namespace
 
-PropertiesPanel::PropertiesPanel(wxWindow* parent, Workspace&) : wxPanel(parent, wxID_ANY) {
-  auto* column = new wxBoxSizer(wxVERTICAL);
-  auto* heading = new wxStaticText(this, wxID_ANY, "Properties");
-  heading->SetFont(heading->GetFont().Bold());
-  column->Add(heading, 0, wxALL, kHeadingBorder);
-  SetSizer(column);
+PropertiesPanel::PropertiesPanel(wxWindow* parent, Workspace& workspace)
+    : wxScrolled<wxPanel>(parent, wxID_ANY), workspace_(workspace) {
+  build();
+  bindEvents();
+  ShowNoSelection();
 }
 
 void PropertiesPanel::RefreshSelection() {
+  showSelection(Typed::keep);
   RefreshTally();
+}
+
+void PropertiesPanel::ShowNoSelection() {
+  show(DescribeNothing(workspace_.layout()), Typed::replace);
 }
 
 void PropertiesPanel::RefreshTally() {}
@@ -27,6 +68,151 @@ void PropertiesPanel::RefreshTally() {}
 void PropertiesPanel::SetPendingLabelPosition(double x, double y) {
   pendingLabelPos_ = {x, y};
   hasPendingLabelPos_ = true;
+}
+
+void PropertiesPanel::showSelection(Typed typed) {
+  show(DescribeSelection(workspace_.layout()), typed);
+}
+
+void PropertiesPanel::show(SelectionPage page, Typed typed) {
+  const bool keepTyped = typed == Typed::keep && page.showsTheSameAs(page_);
+  titleLabel_->setText(ShownText(page.title));
+  infoLabel_->setText(ShownText(page.info));
+  showHeight(page.height, keepTyped && page.height == page_.height);
+  showLevels(page.level);
+  showGrade(page.grade, keepTyped && page.grade == page_.grade);
+  page_ = std::move(page);
+  Layout();
+  wrapLabels();
+}
+
+void PropertiesPanel::showHeight(const HeightEntry& entry, bool keepTyped) {
+  SetTextOf(*heightCaption_, entry.caption);
+  const wxString text = ShownText(entry.text);
+  if (heightField_->GetValue() != text && !(keepTyped && heightField_->HasFocus()))
+    heightField_->ChangeValue(text);
+  heightField_->Enable(entry.enabled);
+}
+
+void PropertiesPanel::showLevels(const LevelEntry& entry) {
+  if (levelRows_ != entry.rows) {
+    levelRows_ = entry.rows;
+    levelChoice_->Clear();
+    for (const LevelRow& row : levelRows_)
+      levelChoice_->Append(ShownText(row.name), ClientData(row.id));
+  }
+  if (levelChoice_->GetSelection() != entry.chosen) levelChoice_->SetSelection(entry.chosen);
+  levelChoice_->Enable(entry.enabled);
+}
+
+void PropertiesPanel::showGrade(const GradeEntry& entry, bool keepTyped) {
+  SetTextOf(*gradeValue_, entry.text);
+  SetColourOf(*gradeValue_, entry.warning.empty()
+                                ? wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT)
+                                : kWarningColour);
+  gradeWarning_->setText(ShownText(entry.warning));
+  const bool inUse = gradeUp_->HasFocus() || gradeDown_->HasFocus() || gradeSpin_->HasFocus();
+  if (!(keepTyped && inUse)) {
+    (entry.up ? gradeUp_ : gradeDown_)->SetValue(true);
+    gradeSpin_->SetValue(entry.degrees);
+  }
+  for (wxWindow* setting : {static_cast<wxWindow*>(gradeUp_), static_cast<wxWindow*>(gradeDown_),
+                            static_cast<wxWindow*>(gradeSpin_)})
+    setting->Enable(entry.settingEnabled);
+  startGrade_->Enable(entry.startEnabled);
+  endGrade_->Enable(entry.endEnabled);
+  recalc_->Enable(entry.recalcEnabled);
+}
+
+// The sizers give each label its width; how high it gets for that shows only then.
+void PropertiesPanel::wrapLabels() {
+  bool changed = false;
+  for (WrappedLabel* label : {titleLabel_, infoLabel_, gradeWarning_})
+    if (label->wrapTo(label->GetSize().x)) changed = true;
+  if (changed) Layout();
+}
+
+void PropertiesPanel::onSize(wxSizeEvent& event) {
+  event.Skip();
+  Layout();
+  wrapLabels();
+}
+
+void PropertiesPanel::bindEvents() {
+  Bind(wxEVT_SIZE, &PropertiesPanel::onSize, this);
+  const auto bind = [this](const auto& type, int id, void (PropertiesPanel::*handler)()) {
+    Bind(
+        type, [this, handler](wxCommandEvent&) { (this->*handler)(); }, id);
+  };
+  bind(wxEVT_TEXT_ENTER, kHeightFieldId, &PropertiesPanel::enterHeight);
+  bind(wxEVT_CHOICE, kLevelChoiceId, &PropertiesPanel::chooseLevel);
+  bind(wxEVT_BUTTON, kApplyColourId, &PropertiesPanel::applyColour);
+  bind(wxEVT_BUTTON, kStartGradeId, &PropertiesPanel::startGradeHere);
+  bind(wxEVT_BUTTON, kEndGradeId, &PropertiesPanel::endGradeHere);
+  bind(wxEVT_BUTTON, kRecalcId, &PropertiesPanel::recalcHere);
+  bind(wxEVT_BUTTON, kAddLabelId, &PropertiesPanel::addLabel);
+  bind(wxEVT_TEXT_ENTER, kLabelFieldId, &PropertiesPanel::addLabel);
+}
+
+void PropertiesPanel::enterHeight() {
+  if (!EnterHeight(workspace_.layout(), page_.pieceId, heightField_->GetValue().utf8_string()))
+    return;
+  workspace_.markDirty();
+  showSelection(Typed::replace);
+  workspace_.refreshViews();
+}
+
+void PropertiesPanel::chooseLevel() {
+  const int row = levelChoice_->GetSelection();
+  if (row == wxNOT_FOUND) return;
+  const std::int32_t level = IdFrom(levelChoice_->GetClientData(static_cast<unsigned>(row)));
+  if (!ChooseLevel(workspace_.layout(), page_, level)) return;
+  workspace_.markDirty();
+  showSelection(Typed::replace);
+  workspace_.refreshViews();
+}
+
+void PropertiesPanel::applyColour() {
+  if (!ApplyColour(workspace_.layout(), colourChoice_->GetSelection())) return;
+  workspace_.markDirty();
+  showSelection(Typed::replace);
+  workspace_.refreshViews();
+}
+
+void PropertiesPanel::addLabel() {
+  const Vec2 at = hasPendingLabelPos_ ? pendingLabelPos_ : Vec2{};
+  if (!AddLabel(workspace_.layout(), labelField_->GetValue().utf8_string(), at)) return;
+  labelField_->ChangeValue(wxString());
+  hasPendingLabelPos_ = false;
+  workspace_.markDirty();
+  workspace_.refreshViews();
+}
+
+// No undo step is taken, so the plan isn't marked as changed either.
+void PropertiesPanel::startGradeHere() {
+  if (page_.pieceId == kNone) return;
+  const bool up = gradeUp_->GetValue();
+  const double degrees = gradeSpin_->GetValue();
+  // A difference, since the negative of 0 would be another zero.
+  if (!startGrade(workspace_.layout(), page_.pieceId, up ? degrees : 0.0 - degrees)) return;
+  workspace_.setStatus(kStatusMessage, GradeStartedText(up, degrees));
+  workspace_.refreshViews();
+  showSelection(Typed::replace);
+}
+
+void PropertiesPanel::endGradeHere() {
+  if (page_.pieceId == kNone || !endGrade(workspace_.layout(), page_.pieceId)) return;
+  workspace_.setStatus(kStatusMessage, std::string(kGradeEndedText));
+  workspace_.markDirty();
+  workspace_.refreshViews();
+  showSelection(Typed::replace);
+}
+
+void PropertiesPanel::recalcHere() {
+  if (page_.pieceId == kNone || !recalcElevation(workspace_.layout(), page_.pieceId)) return;
+  workspace_.markDirty();
+  workspace_.refreshViews();
+  showSelection(Typed::replace);
 }
 
 }  // namespace vantrel

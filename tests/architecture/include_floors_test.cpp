@@ -29,6 +29,7 @@ const std::map<std::string, int>& Floors() {
                                                     {"view3d/scene", 3},
                                                     {"render2d", 3},
                                                     {"app/services", 3},
+                                                    {"inspection", 4},
                                                     {"workspace", 4},
                                                     {"canvas/gestures", 5},
                                                     {"canvas", 6},
@@ -102,7 +103,7 @@ TEST(Floors, EveryIncludePointsDown) {
 
 TEST(Floors, TheLowFloorsNeverSeeTheToolkit) {
   const std::set<std::string> windowless = {"doc", "catalog", "io", "canvas/operations",
-                                            "shopping", "view3d/scene"};
+                                            "inspection", "shopping", "view3d/scene"};
   for (const Include& include : ReadIncludes()) {
     if (!windowless.contains(FolderOf(include.from))) continue;
     EXPECT_FALSE(include.to.starts_with("wx/")) << include.from << " includes " << include.to;
