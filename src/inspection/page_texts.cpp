@@ -1,6 +1,5 @@
 #include "inspection/page_texts.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -37,10 +36,15 @@ std::string SizeText(double width, double depth) {
   return FormatFixed(width, 0) + " x " + FormatFixed(depth, 0) + " mm";
 }
 
+// A coordinate that is no number counts for nothing.
 std::string BoundingSizeText(const std::vector<Vec2>& vertices) {
-  const auto [left, right] = std::ranges::minmax(vertices, {}, &Vec2::x);
-  const auto [top, bottom] = std::ranges::minmax(vertices, {}, &Vec2::y);
-  return SizeText(right.x - left.x, bottom.y - top.y);
+  Vec2 low = vertices.front();
+  Vec2 high = low;
+  for (const Vec2& vertex : vertices) {
+    low = {std::fmin(low.x, vertex.x), std::fmin(low.y, vertex.y)};
+    high = {std::fmax(high.x, vertex.x), std::fmax(high.y, vertex.y)};
+  }
+  return SizeText(high.x - low.x, high.y - low.y);
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 
 #include "inspection/selection_edits.h"
 #include "properties/properties_panel.h"
+#include "properties/tally_panel.h"
 #include "properties/text.h"
 #include "properties/warning_colour.h"
 #include "properties/wrapped_label.h"
@@ -68,7 +69,8 @@ void PropertiesPanel::build() {
   column->Add(buildLevelRow(), 0, wxEXPAND | wxALL, kBorder);
   column->Add(buildColourBox(), 0, wxEXPAND | wxLEFT | wxRIGHT, kBorder);
   column->Add(buildGradeBox(), 0, wxEXPAND | wxALL, kBorder);
-  column->AddStretchSpacer();
+  tally_ = new TallyPanel(this, workspace_);
+  column->Add(tally_, 1, wxEXPAND);
   SetSizer(column);
   SetScrollRate(0, kScrollStep);
 }

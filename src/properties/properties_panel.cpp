@@ -16,6 +16,7 @@
 #include "canvas/operations/grades.h"
 #include "inspection/page_texts.h"
 #include "inspection/selection_edits.h"
+#include "properties/tally_panel.h"
 #include "properties/text.h"
 #include "properties/warning_colour.h"
 #include "properties/wrapped_label.h"
@@ -63,7 +64,9 @@ void PropertiesPanel::ShowNoSelection() {
   show(DescribeNothing(workspace_.layout()), Typed::replace);
 }
 
-void PropertiesPanel::RefreshTally() {}
+void PropertiesPanel::RefreshTally() {
+  tally_->RefreshTally();
+}
 
 void PropertiesPanel::SetPendingLabelPosition(double x, double y) {
   pendingLabelPos_ = {x, y};

@@ -20,6 +20,7 @@ class wxTextCtrl;
 
 namespace vantrel {
 
+class TallyPanel;
 class WrappedLabel;
 
 // Ids of the panel's controls.
@@ -102,6 +103,7 @@ class PropertiesPanel : public wxScrolled<wxPanel> {
   wxButton* startGrade_ = nullptr;
   wxButton* endGrade_ = nullptr;
   wxButton* recalc_ = nullptr;
+  TallyPanel* tally_ = nullptr;
 };
 
 }  // namespace vantrel

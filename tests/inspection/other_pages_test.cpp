@@ -144,8 +144,9 @@ TEST(PolygonPage, VerticesAtTheEndOfTheWorldStillGiveAText) {
   Layout layout = PlanWithThreeLevels();
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const double infinity = std::numeric_limits<double>::infinity();
-  DrawShape(layout, {{-infinity, 5}, {infinity, nan}, {nan, 0}});
-  EXPECT_EQ(DescribeSelection(layout).info.substr(0, 27), "Polygon  |  3 verts  |  inf");
+  DrawShape(layout, {{-infinity, nan}, {infinity, 5}, {nan, 0}});
+  EXPECT_EQ(DescribeSelection(layout).info,
+            "Polygon  |  3 verts  |  inf x 5 mm  |  height 0 mm");
 }
 
 class RunPage : public testing::Test {

@@ -10,6 +10,13 @@
 namespace vantrel {
 namespace {
 
+PieceDef MakeDef(int system, double length) {
+  PieceDef def;
+  def.system = static_cast<TrackSystem>(system);
+  def.length = length;
+  return def;
+}
+
 class PiecePage : public testing::Test {
  protected:
   PiecePage() : layout(PlanWithThreeLevels()) { LaySelected(layout, "24188"); }
@@ -39,18 +46,15 @@ TEST_F(PiecePage, TellsTheLengthInMillimetresInEveryUnit) {
 TEST_F(PiecePage, NamesTheSystemByItsNumber) {
   const char* const names[] = {"Märklin C", "Märklin K",  "Märklin Z", "TRIX C",
                                "Rokuhan Z", "Minitrix N", "Kato N"};
-  for (int system = 0; system < 7; ++system) {
-    const PieceDef def{.system = static_cast<TrackSystem>(system), .length = 12.0};
-    EXPECT_EQ(PieceInfo(def), std::string(names[system]) + "  |  12.0 mm");
-  }
+  for (int system = 0; system < 7; ++system)
+    EXPECT_EQ(PieceInfo(MakeDef(system, 12.0)), std::string(names[system]) + "  |  12.0 mm");
   for (const int system : {-1, 7, 100})
-    EXPECT_EQ(PieceInfo({.system = static_cast<TrackSystem>(system), .length = 12.0}),
-              "Unknown  |  12.0 mm");
+    EXPECT_EQ(PieceInfo(MakeDef(system, 12.0)), "Unknown  |  12.0 mm");
 }
 
 TEST_F(PiecePage, APartWithoutLengthTellsOnlyItsSystem) {
-  EXPECT_EQ(PieceInfo({.system = TrackSystem::MarklinK, .length = 0.0}), "Märklin K  |  ");
-  EXPECT_EQ(PieceInfo({.system = TrackSystem::MarklinK, .length = -1.0}), "Märklin K  |  ");
+  EXPECT_EQ(PieceInfo(MakeDef(1, 0.0)), "Märklin K  |  ");
+  EXPECT_EQ(PieceInfo(MakeDef(1, -1.0)), "Märklin K  |  ");
 }
 
 TEST_F(PiecePage, ShowsTheHeightInTheUnitInForce) {
