@@ -33,20 +33,24 @@ void MainFrame::onExit(wxCommandEvent&) {
   Close(false);
 }
 
+// Another state of the plan may bring another selection along.
+void MainFrame::showHistoryState() {
+  setStatus(kStatusPieces, PiecesText(layout_.pieces.size()));
+  refreshViews();
+  selectionChanged();
+  markDirty();
+}
+
 // Both mark the layout as changed even when the history was empty: what is shown may have been
 // saved, but the user has asked for another state.
 void MainFrame::onUndo(wxCommandEvent&) {
   Undo(layout_);
-  setStatus(kStatusPieces, PiecesText(layout_.pieces.size()));
-  refreshViews();
-  markDirty();
+  showHistoryState();
 }
 
 void MainFrame::onRedo(wxCommandEvent&) {
   Redo(layout_);
-  setStatus(kStatusPieces, PiecesText(layout_.pieces.size()));
-  refreshViews();
-  markDirty();
+  showHistoryState();
 }
 
 // A simpler twin of the canvas's own Delete: it refuses helices selected as a whole, and leaves

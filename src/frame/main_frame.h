@@ -82,6 +82,7 @@ class MainFrame : public wxFrame, public Workspace {
   void showLoadedLayout();
   void askExperienceIfDue();
   void switchTool(int id, bool on);
+  void showHistoryState();
 
   void onNew(wxCommandEvent& event);
   void onOpen(wxCommandEvent& event);

@@ -9,6 +9,8 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <algorithm>
+
 #include "inspection/selection_edits.h"
 #include "properties/properties_panel.h"
 #include "properties/tally_panel.h"
@@ -20,7 +22,11 @@ namespace vantrel {
 namespace {
 
 // Pixels.
-constexpr int kBorder = 4;
+constexpr int kBorder = 3;   // to the edge of the panel
+constexpr int kPadding = 2;  // to the frame of a static box
+constexpr int kGap = 4;      // between controls
+constexpr int kTightGap = 2;
+constexpr int kButtonAir = 8;  // beside the text of a small button
 constexpr int kHeightFieldWidth = 65;
 constexpr int kGradeSpinWidth = 70;
 constexpr int kNarrowChoice = 60;  // a choice may get narrower than its longest entry
@@ -37,19 +43,21 @@ const int kMiddle = wxALIGN_CENTRE_VERTICAL;
 WrappedLabel* AddWrapped(wxWindow* parent, wxSizer* sizer, const char* name, int lines) {
   auto* label = new WrappedLabel(parent, lines);
   label->SetName(name);
-  sizer->Add(label, 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, kBorder);
+  sizer->Add(label, 0, wxEXPAND);
   return label;
 }
 
 wxStaticText* AddText(wxWindow* parent, wxSizer* sizer, const wxString& text) {
   auto* label = new wxStaticText(parent, wxID_ANY, text);
-  sizer->Add(label, 0, kMiddle | wxRIGHT, kBorder);
+  sizer->Add(label, 0, kMiddle);
   return label;
 }
 
-wxButton* AddButton(wxWindow* parent, wxSizer* sizer, int id, const wxString& text) {
+wxButton* AddButton(wxWindow* parent, wxSizer* sizer, int id, const wxString& text,
+                    int proportion) {
   auto* button = new wxButton(parent, id, text, wxDefaultPosition, wxDefaultSize, wxBU_EXACTFIT);
-  sizer->Add(button, 0, kMiddle);
+  button->SetMinSize(button->GetBestSize() + wxSize(kButtonAir, 0));
+  sizer->Add(button, proportion, kMiddle);
   return button;
 }
 
@@ -58,83 +66,100 @@ wxSize AtLeast(int width, const wxWindow& control) {
   return {std::max(width, control.GetBestSize().x), -1};
 }
 
+// A sizer inside the frame of a static box that stands in the column.
+wxBoxSizer* AddFramed(wxSizer* column, wxStaticBoxSizer* frame, wxOrientation direction) {
+  auto* inside = new wxBoxSizer(direction);
+  frame->Add(inside, 1, wxEXPAND | wxALL, kPadding);
+  column->Add(frame, 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, kBorder);
+  return inside;
+}
+
 }  // namespace
 
 void PropertiesPanel::build() {
   auto* column = new wxBoxSizer(wxVERTICAL);
-  column->Add(buildLabelBox(), 0, wxEXPAND | wxALL, kBorder);
-  titleLabel_ = AddWrapped(this, column, "titleLabel", kTitleLines);
-  titleLabel_->SetFont(titleLabel_->GetFont().Bold());
-  infoLabel_ = AddWrapped(this, column, "infoLabel", kInfoLines);
-  column->Add(buildLevelRow(), 0, wxEXPAND | wxALL, kBorder);
-  column->Add(buildColourBox(), 0, wxEXPAND | wxLEFT | wxRIGHT, kBorder);
-  column->Add(buildGradeBox(), 0, wxEXPAND | wxALL, kBorder);
-  tally_ = new TallyPanel(this, workspace_);
-  column->Add(tally_, 1, wxEXPAND);
   SetSizer(column);
   SetScrollRate(0, kScrollStep);
+  buildLabelBox(column);
+  buildTitle(column);
+  buildLevelRow(column);
+  buildColourBox(column);
+  buildGradeBox(column);
+  tally_ = new TallyPanel(this, workspace_);
+  column->Add(tally_, 1, wxEXPAND);
 }
 
-wxSizer* PropertiesPanel::buildLabelBox() {
-  auto* row = new wxStaticBoxSizer(wxHORIZONTAL, this, "Add Label");
-  wxWindow* box = row->GetStaticBox();
+void PropertiesPanel::buildLabelBox(wxSizer* column) {
+  auto* frame = new wxStaticBoxSizer(wxVERTICAL, this, "Add Label");
+  wxWindow* box = frame->GetStaticBox();
+  wxSizer* row = AddFramed(column, frame, wxHORIZONTAL);
   labelField_ = new wxTextCtrl(box, kLabelFieldId, wxString(), wxDefaultPosition, wxDefaultSize,
                                wxTE_PROCESS_ENTER);
-  row->Add(labelField_, 1, kMiddle | wxRIGHT, kBorder);
-  AddButton(box, row, kAddLabelId, "OK");
-  return row;
+  row->Add(labelField_, 1, kMiddle | wxRIGHT, kGap);
+  AddButton(box, row, kAddLabelId, "OK", 0);
 }
 
-wxSizer* PropertiesPanel::buildLevelRow() {
+void PropertiesPanel::buildTitle(wxSizer* column) {
+  auto* texts = new wxBoxSizer(wxVERTICAL);
+  titleLabel_ = AddWrapped(this, texts, "titleLabel", kTitleLines);
+  titleLabel_->SetFont(titleLabel_->GetFont().Bold());
+  texts->AddSpacer(kTightGap);
+  infoLabel_ = AddWrapped(this, texts, "infoLabel", kInfoLines);
+  column->Add(texts, 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, kBorder + kPadding);
+}
+
+void PropertiesPanel::buildLevelRow(wxSizer* column) {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   AddText(this, row, "Level:");
+  row->AddSpacer(kGap);
   levelChoice_ = new wxChoice(this, kLevelChoiceId);
   levelChoice_->SetMinSize(wxSize(kNarrowChoice, -1));
   row->Add(levelChoice_, 1, kMiddle);
-  return row;
+  column->Add(row, 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, kBorder + kPadding);
 }
 
-wxSizer* PropertiesPanel::buildColourBox() {
-  auto* row = new wxStaticBoxSizer(wxHORIZONTAL, this, "Color");
-  wxWindow* box = row->GetStaticBox();
+void PropertiesPanel::buildColourBox(wxSizer* column) {
+  auto* frame = new wxStaticBoxSizer(wxVERTICAL, this, "Color");
+  wxWindow* box = frame->GetStaticBox();
+  wxSizer* row = AddFramed(column, frame, wxHORIZONTAL);
   colourChoice_ = new wxChoice(box, kColourChoiceId);
   for (const PaintColour& colour : paintColours()) colourChoice_->Append(ShownText(colour.name));
   colourChoice_->SetSelection(0);
   colourChoice_->SetMinSize(wxSize(kNarrowChoice, -1));
-  row->Add(colourChoice_, 1, kMiddle | wxRIGHT, kBorder);
-  AddButton(box, row, kApplyColourId, "Apply");
-  return row;
+  row->Add(colourChoice_, 1, kMiddle | wxRIGHT, kGap);
+  AddButton(box, row, kApplyColourId, "Apply", 0);
 }
 
-wxSizer* PropertiesPanel::buildGradeBox() {
-  auto* column = new wxStaticBoxSizer(wxVERTICAL, this, "Set Grade");
-  wxWindow* box = column->GetStaticBox();
+void PropertiesPanel::buildGradeBox(wxSizer* column) {
+  auto* frame = new wxStaticBoxSizer(wxVERTICAL, this, "Set Grade");
+  wxWindow* box = frame->GetStaticBox();
+  wxSizer* inside = AddFramed(column, frame, wxVERTICAL);
 
   auto* heightRow = new wxBoxSizer(wxHORIZONTAL);
   heightCaption_ = AddText(box, heightRow, wxString());
   heightCaption_->SetName("heightCaption");
+  heightRow->AddSpacer(kGap);
   heightField_ = new wxTextCtrl(box, kHeightFieldId, wxString(), wxDefaultPosition, wxDefaultSize,
                                 wxTE_PROCESS_ENTER);
   heightField_->SetMinSize(AtLeast(kHeightFieldWidth, *heightField_));
   heightRow->Add(heightField_, 0, kMiddle);
-  column->Add(heightRow, 0, wxEXPAND);
+  inside->Add(heightRow, 0, wxEXPAND);
 
   auto* gradeRow = new wxBoxSizer(wxHORIZONTAL);
   AddText(box, gradeRow, "Grade:");
+  gradeRow->AddSpacer(kGap);
   gradeValue_ = AddText(box, gradeRow, wxString());
   gradeValue_->SetName("gradeValue");
-  column->Add(gradeRow, 0, wxEXPAND | wxTOP, kBorder);
-  gradeWarning_ = AddWrapped(box, column, "gradeWarning", kInfoLines);
+  inside->Add(gradeRow, 0, wxEXPAND | wxTOP, kGap);
+  gradeWarning_ = AddWrapped(box, inside, "gradeWarning", kInfoLines);
   gradeWarning_->SetForegroundColour(kWarningColour);
-  column->Add(new wxStaticText(box, wxID_ANY, "Set height above baseboard.\nMax grade: 6 deg."), 0,
-              wxTOP, kBorder);
-  column->Add(buildGradeSettings(box), 0, wxEXPAND | wxTOP, kBorder);
-  column->Add(buildGradeButtons(box), 0, wxEXPAND | wxTOP, kBorder);
-  return column;
+  inside->Add(new wxStaticText(box, wxID_ANY, "Set height above baseboard.\nMax grade: 6 deg."), 0,
+              wxTOP, kTightGap);
+  buildGradeSettings(box, inside);
+  buildGradeButtons(box, inside);
 }
 
-wxSizer* PropertiesPanel::buildGradeSettings(wxWindow* box) {
-  auto* row = new wxBoxSizer(wxHORIZONTAL);
+void PropertiesPanel::buildGradeSettings(wxWindow* box, wxSizer* column) {
   gradeUp_ = new wxRadioButton(box, wxID_ANY, "UP", wxDefaultPosition, wxDefaultSize, wxRB_GROUP);
   gradeDown_ = new wxRadioButton(box, wxID_ANY, "DOWN");
   gradeUp_->SetValue(true);
@@ -142,22 +167,28 @@ wxSizer* PropertiesPanel::buildGradeSettings(wxWindow* box) {
                                     wxSP_ARROW_KEYS, 0.0, kMaxGradeDeg, 0.0, kGradeStepDeg);
   gradeSpin_->SetDigits(1);
   gradeSpin_->SetMinSize(AtLeast(kGradeSpinWidth, *gradeSpin_));
-  row->Add(gradeUp_, 0, kMiddle | wxRIGHT, kBorder);
-  row->Add(gradeDown_, 0, kMiddle | wxRIGHT, kBorder);
-  row->Add(gradeSpin_, 0, kMiddle | wxRIGHT, kBorder);
-  AddText(box, row, "deg");
-  return row;
+
+  auto* direction = new wxBoxSizer(wxHORIZONTAL);
+  direction->Add(gradeUp_, 0, kMiddle);
+  direction->Add(gradeDown_, 0, kMiddle);
+  auto* degrees = new wxBoxSizer(wxHORIZONTAL);
+  degrees->Add(gradeSpin_, 0, kMiddle | wxRIGHT, kTightGap);
+  AddText(box, degrees, "deg");
+  gradeSettings_ = new wxBoxSizer(wxHORIZONTAL);
+  gradeSettings_->Add(direction, 0, kMiddle);
+  gradeSettings_->Add(degrees, 0, kMiddle);
+  column->Add(gradeSettings_, 0, wxEXPAND | wxTOP, kGap);
 }
 
-wxSizer* PropertiesPanel::buildGradeButtons(wxWindow* box) {
-  auto* row = new wxBoxSizer(wxHORIZONTAL);
-  startGrade_ = AddButton(box, row, kStartGradeId, "Start Grade");
-  row->AddSpacer(kBorder);
-  endGrade_ = AddButton(box, row, kEndGradeId, "End Grade");
-  row->AddSpacer(kBorder);
-  recalc_ = AddButton(box, row, kRecalcId, "Recalc");
+void PropertiesPanel::buildGradeButtons(wxWindow* box, wxSizer* column) {
+  gradeButtons_ = new wxBoxSizer(wxHORIZONTAL);
+  startGrade_ = AddButton(box, gradeButtons_, kStartGradeId, "Start Grade", 1);
+  gradeButtons_->AddSpacer(kGap);
+  endGrade_ = AddButton(box, gradeButtons_, kEndGradeId, "End Grade", 1);
+  gradeButtons_->AddSpacer(kGap);
+  recalc_ = AddButton(box, gradeButtons_, kRecalcId, "Recalc", 1);
   recalc_->SetToolTip("Recalculate elevation chain from this piece forward");
-  return row;
+  column->Add(gradeButtons_, 0, wxEXPAND | wxTOP, kGap);
 }
 
 }  // namespace vantrel

@@ -5,6 +5,7 @@
 #include <wx/choice.h>
 #include <wx/radiobut.h>
 #include <wx/settings.h>
+#include <wx/sizer.h>
 #include <wx/spinctrl.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
@@ -36,6 +37,17 @@ void SetColourOf(wxWindow& control, const wxColour& colour) {
   if (control.GetForegroundColour() == colour) return;
   control.SetForegroundColour(colour);
   control.Refresh();
+}
+
+// Puts the members of a row one below the other when it is narrower than they are together. True
+// when that changed.
+bool StackIfNarrow(wxBoxSizer& row) {
+  int together = 0;
+  for (wxSizerItem* item : row.GetChildren()) together += item->CalcMin().x;
+  const int direction = together <= row.GetSize().x ? wxHORIZONTAL : wxVERTICAL;
+  if (row.GetOrientation() == direction) return false;
+  row.SetOrientation(direction);
+  return true;
 }
 
 void* ClientData(std::int32_t id) {
@@ -85,8 +97,7 @@ void PropertiesPanel::show(SelectionPage page, Typed typed) {
   showLevels(page.level);
   showGrade(page.grade, keepTyped && page.grade == page_.grade);
   page_ = std::move(page);
-  Layout();
-  wrapLabels();
+  fitToWidth();
 }
 
 void PropertiesPanel::showHeight(const HeightEntry& entry, bool keepTyped) {
@@ -127,18 +138,24 @@ void PropertiesPanel::showGrade(const GradeEntry& entry, bool keepTyped) {
   recalc_->Enable(entry.recalcEnabled);
 }
 
-// The sizers give each label its width; how high it gets for that shows only then.
-void PropertiesPanel::wrapLabels() {
+wxSize PropertiesPanel::GetBestVirtualSize() const {
+  return {GetClientSize().x, GetSizer()->CalcMin().y};
+}
+
+// The sizers give each row and label its width; how many lines it takes for that shows only then.
+void PropertiesPanel::fitToWidth() {
+  FitInside();
   bool changed = false;
+  for (wxBoxSizer* row : {gradeSettings_, gradeButtons_})
+    if (StackIfNarrow(*row)) changed = true;
   for (WrappedLabel* label : {titleLabel_, infoLabel_, gradeWarning_})
     if (label->wrapTo(label->GetSize().x)) changed = true;
-  if (changed) Layout();
+  if (changed) FitInside();
 }
 
 void PropertiesPanel::onSize(wxSizeEvent& event) {
   event.Skip();
-  Layout();
-  wrapLabels();
+  fitToWidth();
 }
 
 void PropertiesPanel::bindEvents() {

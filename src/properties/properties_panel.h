@@ -10,6 +10,7 @@
 #include "inspection/selection_page.h"
 #include "workspace/workspace.h"
 
+class wxBoxSizer;
 class wxButton;
 class wxChoice;
 class wxRadioButton;
@@ -53,17 +54,21 @@ class PropertiesPanel : public wxScrolled<wxPanel> {
   Vec2 pendingLabelPos() const { return pendingLabelPos_; }
   const SelectionPage& page() const { return page_; }
 
+  // As wide as what is seen of the panel: what doesn't fit gets another line, or less room.
+  wxSize GetBestVirtualSize() const override;
+
  private:
   // Whether a refresh may overwrite what the user is typing.
   enum class Typed { keep, replace };
 
   void build();
-  wxSizer* buildLabelBox();
-  wxSizer* buildLevelRow();
-  wxSizer* buildColourBox();
-  wxSizer* buildGradeBox();
-  wxSizer* buildGradeSettings(wxWindow* box);
-  wxSizer* buildGradeButtons(wxWindow* box);
+  void buildLabelBox(wxSizer* column);
+  void buildTitle(wxSizer* column);
+  void buildLevelRow(wxSizer* column);
+  void buildColourBox(wxSizer* column);
+  void buildGradeBox(wxSizer* column);
+  void buildGradeSettings(wxWindow* box, wxSizer* column);
+  void buildGradeButtons(wxWindow* box, wxSizer* column);
   void bindEvents();
 
   void show(SelectionPage page, Typed typed);
@@ -71,7 +76,7 @@ class PropertiesPanel : public wxScrolled<wxPanel> {
   void showHeight(const HeightEntry& entry, bool keepTyped);
   void showLevels(const LevelEntry& entry);
   void showGrade(const GradeEntry& entry, bool keepTyped);
-  void wrapLabels();
+  void fitToWidth();
   void onSize(wxSizeEvent& event);
 
   void enterHeight();
@@ -97,9 +102,11 @@ class PropertiesPanel : public wxScrolled<wxPanel> {
   wxTextCtrl* heightField_ = nullptr;
   wxStaticText* gradeValue_ = nullptr;
   WrappedLabel* gradeWarning_ = nullptr;
+  wxBoxSizer* gradeSettings_ = nullptr;
   wxRadioButton* gradeUp_ = nullptr;
   wxRadioButton* gradeDown_ = nullptr;
   wxSpinCtrlDouble* gradeSpin_ = nullptr;
+  wxBoxSizer* gradeButtons_ = nullptr;
   wxButton* startGrade_ = nullptr;
   wxButton* endGrade_ = nullptr;
   wxButton* recalc_ = nullptr;

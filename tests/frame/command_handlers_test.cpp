@@ -5,6 +5,7 @@
 
 #include "canvas/canvas_panel.h"
 #include "doc/undo.h"
+#include "properties/properties_panel.h"
 #include "tests/frame/frame_fixture.h"
 
 namespace vantrel {
@@ -74,6 +75,30 @@ TEST_F(CommandHandlers, UndoOnAnEmptyHistoryIsRefusedByTheMenuAndByTheOperation)
   Undo(plan());
   EXPECT_EQ(plan().pieces, before.pieces);
   EXPECT_TRUE(plan().redoHistory.empty());
+}
+
+TEST_F(CommandHandlers, UndoAndRedoShowTheirSelectionInThePropertiesPanel) {
+  const std::int32_t id = addPiece().id;
+  frame().selectionChanged();
+  PushUndo(plan());
+  plan().pieces[0].sel = true;
+  plan().pieces[0].z = 40.0;
+  frame().selectionChanged();
+  EXPECT_EQ(frame().properties().page().pieceId, id);
+  command(2002);
+  EXPECT_EQ(frame().properties().page().kind, PageKind::none);
+  EXPECT_EQ(frame().properties().page().pieceId, -1);
+  command(2003);
+  EXPECT_EQ(frame().properties().page().pieceId, id);
+  EXPECT_EQ(frame().properties().page().height.text, "40.0");
+}
+
+TEST_F(CommandHandlers, AnotherUnitShowsInThePropertiesPanel) {
+  addPiece().sel = true;
+  frame().selectionChanged();
+  EXPECT_EQ(frame().properties().page().height.caption, "Height (mm):");
+  command(kCmdInches, true);
+  EXPECT_EQ(frame().properties().page().height.caption, "Height (in):");
 }
 
 TEST_F(CommandHandlers, UndoAndRedoAreOfferedWhileTheirHistoryLasts) {
