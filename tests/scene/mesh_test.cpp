@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 #include "tests/scene/mesh_support.h"
 
 namespace vantrel {
@@ -112,21 +115,28 @@ TEST(Mesh, TurnsABeamsSecondAxisFromLevelWhereItStandsUpright) {
   ExpectBounds(mesh, {8, 3, 0}, {12, 7, 40});
 }
 
-TEST(Mesh, KeepsASteepBeamsSecondAxisLevelUpToNineTenths) {
-  // The direction is (0.48, 0, 0.8772...) of length 1 for 12 over 22: z 0.878, below 0.9. The axis
-  // across is level, so the beam is as wide in y as it is thick.
-  Mesh level;
-  AddBeam(level, {0, 0, 0}, {12, 0, 22}, 2, kRed);
-  ExpectClosed(level);
-  EXPECT_NEAR(BoundsOf(level).high.y, 2.0F, 1e-4F);
+bool HasNormal(const Mesh& mesh, bool (*is)(Vec3f)) {
+  return std::any_of(mesh.normals.begin(), mesh.normals.end(), is);
+}
 
-  // 10 along y and 22 up: z 0.91. The axis across is at right angles to x, so that it leans with
-  // the beam, and the third lies along x.
-  Mesh steep;
-  AddBeam(steep, {0, 0, 0}, {0, 10, 22}, 2, kRed);
-  ExpectClosed(steep);
-  EXPECT_NEAR(BoundsOf(steep).high.x, 2.0F, 1e-4F);
-  EXPECT_NEAR(BoundsOf(steep).low.x, -2.0F, 1e-4F);
+TEST(Mesh, KeepsABeamsSecondAxisLevelUpToASteepnessOfNineTenths) {
+  const auto isLevel = [](Vec3f normal) { return std::abs(normal.z) < 1e-4F; };
+  const auto isAcrossX = [](Vec3f normal) { return std::abs(normal.x) < 1e-4F; };
+  // 8, 8 and 22 over a length of 24.74: z 0.889.
+  Mesh below;
+  AddBeam(below, {0, 0, 0}, {8, 8, 22}, 2, kRed);
+  ExpectClosed(below);
+  EXPECT_TRUE(HasNormal(below, isLevel));
+  EXPECT_FALSE(HasNormal(below, isAcrossX));
+
+  // 7.5, 7.5 and 22 over 24.42: z 0.9008, upward or downward.
+  for (const float z : {22.0F, -22.0F}) {
+    Mesh above;
+    AddBeam(above, {0, 0, 0}, {7.5F, 7.5F, z}, 2, kRed);
+    ExpectClosed(above);
+    EXPECT_FALSE(HasNormal(above, isLevel));
+    EXPECT_TRUE(HasNormal(above, isAcrossX));
+  }
 }
 
 TEST(Mesh, HoldsTheThicknessOfABeamInAnyDirection) {
