@@ -25,6 +25,6 @@ DISPLAY=:$(tr -d '\n' <"$numbers")
 export DISPLAY
 # No accessibility or session bus on a bare display: the toolkit would wait for one.
 export NO_AT_BRIDGE=1 GDK_BACKEND=x11 LIBGL_ALWAYS_SOFTWARE=1
-openbox >/dev/null 2>&1 &
+openbox --config-file "$(dirname "${BASH_SOURCE[0]}")/openbox.xml" >/dev/null 2>&1 &
 window_manager=$!
 "$@"

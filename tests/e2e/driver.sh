@@ -170,3 +170,52 @@ expect() {
   problem="$1: expected '$2', got '$3'"
   return 1
 }
+
+# at WORLD-X WORLD-Y: moves the pointer there, under the view that the program starts with.
+at() {
+  glide $((canvas_x + 60 + $1 * 2 / 5)) $((canvas_y + 60 + $2 * 2 / 5))
+}
+
+double_click() { xdotool click --repeat 2 --delay 60 1; settle; }
+
+# drag_to SCREEN-X SCREEN-Y: with the left button, from where the pointer is.
+drag_to() {
+  press
+  glide "$1" "$2"
+  release
+  settle
+}
+
+# choose_entry N: the Nth entry of the context menu that a right press pops up here.
+choose_entry() {
+  click 3
+  settle
+  for _ in $(seq "$1"); do xdotool key Down; sleep 0.1; done
+  xdotool key Return
+  settle
+}
+
+# write_plan NAME BODY: a plan in the program's folder; BODY is what stands inside its layout.
+write_plan() {
+  printf '<?xml version="1.0" encoding="UTF-8"?>\n<layout name="%s" version="1" units="0">\n%s\n</layout>\n' \
+    "$1" "$2" >"$store/$1.vtl"
+}
+
+# open_plan: the only plan there is.
+open_plan() {
+  key ctrl+o
+  window '^Open Layout$' >/dev/null || return 1
+  key Down
+  key Return
+  window_gone '^Open Layout$' && settle
+}
+
+# answer_box TITLE KEY: presses a key in a message box and waits until it has gone.
+answer_box() {
+  window "^$1\$" >/dev/null || return 1
+  settle
+  xdotool key "$2"
+  window_gone "^$1\$" && settle
+}
+
+piece_count() { grep -c '<piece ' "$1"; }

@@ -14,6 +14,7 @@ if [ "${VANTREL_E2E_DISPLAY:-}" != yes ]; then
 fi
 . "$here/driver.sh"
 . "$here/tests.sh"
+. "$here/editing_tests.sh"
 
 all_tests=$(declare -F | awk '{print $3}' | grep '^test_')
 passed=0

@@ -251,6 +251,16 @@ TEST_F(SelectionDragging, ADragOfBothBegunOnSceneryPutsThePiecesWhereTheSceneryS
   EXPECT_TRUE(host.boxes.empty());
 }
 
+TEST_F(SelectionDragging, AClickOnSelectedSceneryLeavesSelectedPiecesAndTheirJointsAlone) {
+  const Ids chain = layChain(2, 100.0, 500.0);
+  const std::int32_t house = layScenery("platform", {300.0, 100.0, 0.0});
+  select({chain[0], house});
+  clickLeft(310, 100);
+  EXPECT_EQ(piece(chain[0]).x, 100.0);
+  EXPECT_EQ(JointOf(layout, chain[0], 1), (Joint{chain[1], 0}));
+  EXPECT_EQ(host.dirtyMarks, 1);
+}
+
 TEST_F(SelectionDragging, ADragOfBothBegunOnAPieceMovesBoth) {
   const std::int32_t track = lay("24188", {100.0, 500.0, 0.0});
   const std::int32_t house = layScenery("platform", {300.0, 100.0, 0.0});

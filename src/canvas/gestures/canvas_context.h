@@ -67,6 +67,7 @@ struct SelectionPending {
 // The selection follows the pointer with the left button down.
 struct SelectionDrag {
   bool active = false;
+  bool moved = false;
   Vec2 from;        // world point of the press
   MoveStart start;  // taken at the press
   BlockSnap snap;   // what the drop would join

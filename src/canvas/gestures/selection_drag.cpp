@@ -52,14 +52,18 @@ void StartDrag(CanvasContext& context) {
 
 void beginSelectionPending(CanvasContext& context, const PointerEvent& event) {
   context.state.selectionPending = {.active = true, .from = event.at};
-  context.state.selectionDrag = {
-      .active = false, .from = event.world, .start = takeMoveStart(context.layout), .snap = {}};
+  context.state.selectionDrag = {.active = false,
+                                 .moved = false,
+                                 .from = event.world,
+                                 .start = takeMoveStart(context.layout),
+                                 .snap = {}};
   context.host.captureMouse();
 }
 
 void beginSceneryMove(CanvasContext& context, const PointerEvent& event) {
   PushUndo(context.layout);
   context.state.selectionDrag = {.active = true,
+                                 .moved = false,
                                  .from = event.world,
                                  .start = takeSceneryMoveStart(context.layout),
                                  .snap = {}};
@@ -79,6 +83,7 @@ bool selectionPendingMotion(CanvasContext& context, const PointerEvent& event) {
 bool selectionDragMotion(CanvasContext& context, const PointerEvent& event) {
   SelectionDrag& drag = context.state.selectionDrag;
   if (!drag.active || !event.leftDown) return false;
+  drag.moved = true;
   moveSelection(context.layout, drag.start,
                 {event.world.x - drag.from.x, event.world.y - drag.from.y});
   drag.snap = findBlockSnap(context.layout);
@@ -94,7 +99,8 @@ bool endSelectionPending(CanvasContext& context, const PointerEvent&) {
 bool endSelectionDrag(CanvasContext& context, const PointerEvent&) {
   SelectionDrag& drag = context.state.selectionDrag;
   if (!drag.active) return false;
-  dropSelection(context.layout, drag.start, drag.snap);
+  // Pieces selected beside a clicked scenery item don't stand where its list of starts says.
+  if (drag.moved) dropSelection(context.layout, drag.start, drag.snap);
   drag = {};
   context.host.selectionChanged();
   context.host.markDirty();
