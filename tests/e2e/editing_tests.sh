@@ -2,9 +2,10 @@
 # and keys.
 # shellcheck shell=bash
 
-# The colour of a bed of plain track, and of a selected one.
+# The colours of a bed of plain track, of a selected one, and of one in a tunnel.
 bed='#D2D2CD'
 selected_bed='#B4C8E6'
+tunnel_bed='#D8D8D6'
 
 # arc_point CX CY RADIUS DEGREES: a world point, in whole millimetres.
 arc_point() {
@@ -217,7 +218,7 @@ test_graded_track_is_asked_about_and_both_answers_hold() {
 # goes there. The palette's icons have the same colours.
 middle_of_bed() {
   local box
-  box=$( (pixels "$bed"; pixels "$selected_bed") | awk -v left="$canvas_x" '
+  box=$( (pixels "$bed"; pixels "$selected_bed"; pixels "$tunnel_bed") | awk -v left="$canvas_x" '
     $1 < left {next}
     !n++ {x0 = x1 = $1; y0 = y1 = $2}
     {if ($1 < x0) x0 = $1; if ($1 > x1) x1 = $1; if ($2 < y0) y0 = $2; if ($2 > y1) y1 = $2}
@@ -234,7 +235,7 @@ test_tunnel_track_is_locked_until_the_tunnel_goes() {
   write_plan Tunnel "$(printf "$one_straight" 0.0000)
 <tunnels>
 <tunnel id=\"2\" portalA=\"3\" portalB=\"4\" anchorA=\"1\" anchorB=\"1\">
-<covers id=\"1\"/>
+<covers piece=\"1\"/>
 </tunnel>
 </tunnels>"
   open_plan || return 1
