@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "properties/text.h"
+
 namespace vantrel {
 namespace {
 
@@ -17,10 +19,8 @@ constexpr std::size_t kLongestText = 200;
 
 enum Column { kPieceColumn = 0, kCountColumn = 1 };
 
-// A part number that isn't UTF-8 is shown one letter per byte.
-wxString ShownText(const std::string& text) {
-  wxString shown = wxString::FromUTF8(text.data(), text.size());
-  if (shown.empty()) shown = wxString::From8BitData(text.data(), text.size());
+wxString CellText(const std::string& text) {
+  const wxString shown = ShownText(text);
   return shown.length() <= kLongestText ? shown : shown.Left(kLongestText) + "...";
 }
 
@@ -64,7 +64,7 @@ wxString TallyList::tipAt(wxPoint point) const {
   int flags = 0;
   const long row = const_cast<TallyList*>(this)->HitTest(point, flags);
   if (row < 0 || static_cast<std::size_t>(row) >= rows_.size()) return {};
-  const wxString text = ShownText(rows_[static_cast<std::size_t>(row)].text);
+  const wxString text = CellText(rows_[static_cast<std::size_t>(row)].text);
   const bool fits = GetTextExtent(text).x + kCellPadding <= GetColumnWidth(kPieceColumn);
   return fits ? wxString() : text;
 }
@@ -72,7 +72,7 @@ wxString TallyList::tipAt(wxPoint point) const {
 wxString TallyList::OnGetItemText(long item, long column) const {
   const auto at = static_cast<std::size_t>(item);
   if (item < 0 || at >= rows_.size()) return {};
-  return ShownText(column == kPieceColumn ? rows_[at].text : rows_[at].count);
+  return CellText(column == kPieceColumn ? rows_[at].text : rows_[at].count);
 }
 
 wxItemAttr* TallyList::OnGetItemAttr(long item) const {
