@@ -28,7 +28,7 @@ void CollectReferences(const Layout& layout, std::unordered_set<std::int32_t>& i
     ids.insert({helix.bottomR1, helix.bottomR2, helix.topR1, helix.topR2});
 }
 
-std::int32_t LowestFreeId(const Layout& layout) {
+std::unordered_set<std::int32_t> UsedIds(const Layout& layout) {
   std::unordered_set<std::int32_t> used;
   CollectIds(layout.pieces, used);
   CollectIds(layout.scenery, used);
@@ -38,9 +38,14 @@ std::int32_t LowestFreeId(const Layout& layout) {
   CollectIds(layout.tunnels, used);
   CollectIds(layout.helices, used);
   CollectReferences(layout, used);
-  std::int32_t id = 1;
-  while (used.contains(id)) ++id;
-  return id;
+  return used;
+}
+
+// Appends the lowest free ids until there are `count`.
+void FillWithFreeIds(const Layout& layout, std::vector<std::int32_t>& ids, std::size_t count) {
+  const std::unordered_set<std::int32_t> used = UsedIds(layout);
+  for (std::int32_t id = 1; ids.size() < count; ++id)
+    if (!used.contains(id)) ids.push_back(id);
 }
 
 template <typename Record>
@@ -51,8 +56,15 @@ void Deselect(std::vector<Record>& records) {
 }  // namespace
 
 std::int32_t TakeId(Layout& layout) {
-  if (layout.nextId >= kLastId) return LowestFreeId(layout);
-  return layout.nextId++;
+  return TakeIds(layout, 1).front();
+}
+
+std::vector<std::int32_t> TakeIds(Layout& layout, std::size_t count) {
+  std::vector<std::int32_t> ids;
+  ids.reserve(count);
+  while (ids.size() < count && layout.nextId < kLastId) ids.push_back(layout.nextId++);
+  if (ids.size() < count) FillWithFreeIds(layout, ids, count);
+  return ids;
 }
 
 void EnsureDefaultLevel(Layout& layout) {

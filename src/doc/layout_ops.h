@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <unordered_map>
 #include <unordered_set>
+#include <vector>
 
 #include "doc/layout.h"
 
@@ -13,6 +14,10 @@ namespace vantrel {
 // The id for a new record of any kind but Level. Unique across the seven record lists; never
 // overflows: once the counter has reached the largest id, the lowest free one is searched for.
 std::int32_t TakeId(Layout& layout);
+
+// The ids for `count` new records, as TakeId would give them out one by one; a single search when
+// the counter has reached its end.
+std::vector<std::int32_t> TakeIds(Layout& layout, std::size_t count);
 
 // With no levels at all, appends "Level 1" (id 1, visible, height 0, colour 180, 200, 220). Leaves
 // activeLevel alone.

@@ -63,6 +63,22 @@ TEST(TakeId, DoesNotReviveAnIdThatADanglingReferenceStillNames) {
   EXPECT_EQ(TakeId(layout), 14);
 }
 
+TEST(TakeIds, CountsUpAsOneByOne) {
+  Layout layout;
+  EXPECT_EQ(TakeIds(layout, 3), (std::vector<std::int32_t>{1, 2, 3}));
+  EXPECT_TRUE(TakeIds(layout, 0).empty());
+  EXPECT_EQ(TakeId(layout), 4);
+}
+
+TEST(TakeIds, GivesTheLastOnesOfTheCounterAndThenTheLowestFreeOnes) {
+  Layout layout;
+  layout.nextId = kLargestId - 2;
+  layout.pieces = {PieceWithId(1), PieceWithId(3)};
+  EXPECT_EQ(TakeIds(layout, 5),
+            (std::vector<std::int32_t>{kLargestId - 2, kLargestId - 1, 2, 4, 5}));
+  EXPECT_EQ(layout.nextId, kLargestId);
+}
+
 TEST(EnsureDefaultLevel, AppendsTheBlueGreyFirstLevelToNone) {
   Layout layout;
   layout.activeLevel = 5;

@@ -1,5 +1,6 @@
 #include "canvas/operations/clipboard.h"
 
+#include <cmath>
 #include <cstddef>
 #include <unordered_map>
 #include <utility>
@@ -13,11 +14,17 @@ namespace {
 
 using NewIds = std::unordered_map<std::int32_t, std::int32_t>;
 
-// The mean of all positions and, with a shape, of its vertices.
+bool IsFinite(Vec2 at) {
+  return std::isfinite(at.x) && std::isfinite(at.y);
+}
+
+// The mean of all positions and, with a shape, of its vertices. What a damaged plan put nowhere at
+// all has no say in it: it would take everything else along.
 Vec2 Middle(const Clipboard& clipboard) {
   Vec2 sum;
   std::size_t count = 0;
   const auto add = [&sum, &count](double x, double y) {
+    if (!IsFinite({x, y})) return;
     sum.x += x;
     sum.y += y;
     ++count;
@@ -28,6 +35,13 @@ Vec2 Middle(const Clipboard& clipboard) {
     for (const Vec2 vertex : clipboard.shape.vertices) add(vertex.x, vertex.y);
   if (count == 0) return {};
   return {sum.x / static_cast<double>(count), sum.y / static_cast<double>(count)};
+}
+
+// From where the records stood to `at`; nothing when no number can say it.
+Vec2 WayTo(Vec2 at, const Clipboard& clipboard) {
+  const Vec2 middle = Middle(clipboard);
+  const Vec2 by{at.x - middle.x, at.y - middle.y};
+  return IsFinite(by) ? by : Vec2{};
 }
 
 // Joints inside the clipboard follow their pieces; all others are dropped.
@@ -43,12 +57,12 @@ void RenameJoints(Piece& piece, const NewIds& newIds) {
 
 void PastePieces(Layout& layout, const Clipboard& clipboard, Vec2 by) {
   const std::size_t first = layout.pieces.size();
+  const std::vector<std::int32_t> ids = TakeIds(layout, clipboard.pieces.size());
+  auto id = ids.begin();
   NewIds newIds;
-  // Each one stands in the plan before the next asks for an id: with the counter at its end, only
-  // what the plan holds is known to be taken.
   for (const Piece& original : clipboard.pieces) {
     Piece piece = original;
-    piece.id = TakeId(layout);
+    piece.id = *id++;
     newIds.try_emplace(original.id, piece.id);
     piece.x += by.x;
     piece.y += by.y;
@@ -59,9 +73,11 @@ void PastePieces(Layout& layout, const Clipboard& clipboard, Vec2 by) {
 }
 
 void PasteScenery(Layout& layout, const Clipboard& clipboard, Vec2 by) {
+  const std::vector<std::int32_t> ids = TakeIds(layout, clipboard.scenery.size());
+  auto id = ids.begin();
   for (const SceneryItem& original : clipboard.scenery) {
     SceneryItem item = original;
-    item.id = TakeId(layout);
+    item.id = *id++;
     item.x += by.x;
     item.y += by.y;
     item.sel = true;
@@ -100,8 +116,7 @@ void copyShape(const Layout& layout, std::int32_t id, Clipboard& clipboard) {
 bool pasteClipboard(Layout& layout, const Clipboard& clipboard, Vec2 at) {
   if (clipboard.empty()) return false;
   PushUndo(layout);
-  const Vec2 middle = Middle(clipboard);
-  const Vec2 by{at.x - middle.x, at.y - middle.y};
+  const Vec2 by = WayTo(at, clipboard);
   ClearSelection(layout);
   PastePieces(layout, clipboard, by);
   PasteScenery(layout, clipboard, by);

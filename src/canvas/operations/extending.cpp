@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <utility>
 
-#include "canvas/operations/elevation.h"
 #include "canvas/operations/joining.h"
 #include "canvas/operations/placing.h"
 #include "catalog/connector_geometry.h"
@@ -50,9 +49,8 @@ CloneResult clonePiece(Layout& layout, std::int32_t id) {
   Piece clone = NewPiece(*def, poseForConnector(*def, own, target.pose()));
   clone.level = piece->level;
   const std::int32_t cloneId = addPieceToLayout(layout, std::move(clone));
-  joinPieces(layout, cloneId, own, id, end);
+  JoinNewPiece(layout, cloneId, own, id, end);
   SelectOnly(layout, cloneId);
-  applyJoinElevation(layout, cloneId, id, end, own);
   return {.outcome = CloneOutcome::cloned, .clone = cloneId};
 }
 

@@ -28,15 +28,22 @@ double HeightAfter(const Piece& piece) {
   return def == nullptr ? piece.z : piece.z + std::sin(Radians(piece.grade)) * pieceRise(*def);
 }
 
+// A height that no number says, in a damaged plan, is passed on to nobody; then false.
+bool LayAfter(const Piece& before, Piece& piece) {
+  const double z = HeightAfter(before);
+  if (!std::isfinite(z)) return false;
+  piece.z = z;
+  return true;
+}
+
 // Lays the piece at the height of the one before it, and the level pieces after it in a row.
 void LayChain(Layout& layout, const PieceIndex& index, Piece& start) {
-  if (const Piece* const before = Neighbour(layout, index, start, 0))
-    start.z = HeightAfter(*before);
+  if (const Piece* const before = Neighbour(layout, index, start, 0)) LayAfter(*before, start);
   const Piece* current = &start;
   for (int step = 0; step < kGradeWalkLimit; ++step) {
     Piece* const next = Neighbour(layout, index, *current, 1);
     if (next == nullptr || std::abs(next->grade) > kLevelDegrees) return;
-    next->z = HeightAfter(*current);
+    if (!LayAfter(*current, *next)) return;
     current = next;
   }
 }

@@ -23,13 +23,6 @@ std::int32_t LevelForDrop(const Layout& layout, const SnapResult& snap) {
   return target != nullptr ? target->level : layout.activeLevel;
 }
 
-// Joins the new piece to a piece that stands, and takes over its height.
-void JoinNewPiece(Layout& layout, std::int32_t newId, std::int32_t ownConnector,
-                  std::int32_t targetId, std::int32_t targetConnector) {
-  joinPieces(layout, newId, ownConnector, targetId, targetConnector);
-  applyJoinElevation(layout, newId, targetId, targetConnector, ownConnector);
-}
-
 const Piece* LastSelectedPiece(const Layout& layout) {
   const Piece* last = nullptr;
   for (const Piece& piece : layout.pieces)
@@ -47,6 +40,12 @@ std::int32_t FreeEnd(const Piece& piece, const PieceDef& def) {
 }
 
 }  // namespace
+
+void JoinNewPiece(Layout& layout, std::int32_t newId, std::int32_t ownConnector,
+                  std::int32_t targetId, std::int32_t targetConnector) {
+  joinPieces(layout, newId, ownConnector, targetId, targetConnector);
+  applyJoinElevation(layout, newId, targetId, targetConnector, ownConnector);
+}
 
 void SelectOnly(Layout& layout, std::int32_t id) {
   ClearSelection(layout);

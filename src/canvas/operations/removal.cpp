@@ -21,15 +21,17 @@ bool IsPaired(const Piece& piece) {
   return def != nullptr && def->isPaired;
 }
 
+// A file can hold a piece whose id is the number for "none". Nothing is joined to it, and in this
+// set it would match every open slot, and every stub that a helix lacks.
 IdSet SelectedPieceIds(const Layout& layout) {
   IdSet ids;
   for (const Piece& piece : layout.pieces)
-    if (piece.sel) ids.insert(piece.id);
+    if (piece.sel && piece.id != kNone) ids.insert(piece.id);
   return ids;
 }
 
 bool Names(const Joint& joint, const IdSet& ids) {
-  return joint.target != kNone && ids.contains(joint.target);
+  return ids.contains(joint.target);
 }
 
 // Where the runs of deleted anchors go on: the first slot, in the order of the unselected pieces,
