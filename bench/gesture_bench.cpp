@@ -51,7 +51,11 @@ struct Editor {
   }
 
   PointerEvent at(int x, int y, bool leftDown) const {
-    return {.at = {x, y}, .world = state.view.toWorld({x, y}), .leftDown = leftDown};
+    PointerEvent event;
+    event.at = {x, y};
+    event.world = state.view.toWorld(event.at);
+    event.leftDown = leftDown;
+    return event;
   }
 
   Layout layout;
