@@ -64,27 +64,26 @@ TEST(EndStop, StandsOnAStripOfTwoSegments) {
   EXPECT_EQ(TriangleCount(top), 4U);
 }
 
-// 24977 is 48.3 mm long, so that f is 0.75 x 48.3 - 0.07 x 18.7 = 34.916. The boxes are placed
-// around the footprint's middle, 24.15 and 18.7 from its corner.
-TEST(EndStop, PlacesItsBoxesAroundTheOriginAndNotAroundTheStrip) {
+// 24977 is 48.3 mm long, so that f is 0.75 x 48.3 - 0.07 x 18.7 = 34.916.
+TEST(EndStop, PutsItsBeamAtThreeQuartersOfTheLength) {
   const Model model = ModelOf("24977");
-  // x from 34.916 - 24.15, 0.14 w = 2.618 thick; y to either side by 1.05 w; z from 0.31 w to 0.69
+  // x from 34.916, 0.14 w = 2.618 thick; y to either side by 1.05 w; z from 0.31 w to 0.69
   // w.
-  ExpectBounds(PartIn(model, kBeamSide), {10.766F, -19.635F, 5.797F}, {13.384F, 19.635F, 12.903F});
-  ExpectBounds(PartIn(model, kBeamTop), {10.766F, -19.635F, 12.903F}, {13.384F, 19.635F, 12.903F});
+  ExpectBounds(PartIn(model, kBeamSide), {34.916F, -19.635F, 5.797F}, {37.534F, 19.635F, 12.903F});
+  ExpectBounds(PartIn(model, kBeamTop), {34.916F, -19.635F, 12.903F}, {37.534F, 19.635F, 12.903F});
   // 0.2 w = 3.74 before the beam, 0.5 w wide; z from 0.3 w to 0.7 w.
-  ExpectBounds(PartIn(model, kRedSide), {7.026F, -4.675F, 5.61F}, {10.766F, 4.675F, 13.09F});
+  ExpectBounds(PartIn(model, kRedSide), {31.176F, -4.675F, 5.61F}, {34.916F, 4.675F, 13.09F});
 }
 
 TEST(EndStop, ReachesOutTwoBuffersBeforeTheBeam) {
   const Model model = ModelOf("24977");
   // Arms 0.55 w = 10.285 long; their sides at w plus and minus 0.44 w, 0.16 w thick: out to 0.52 w.
-  ExpectBounds(PartIn(model, kArmSide), {0.481F, -9.724F, 7.854F}, {10.766F, 9.724F, 10.846F});
+  ExpectBounds(PartIn(model, kArmSide), {24.631F, -9.724F, 7.854F}, {34.916F, 9.724F, 10.846F});
   // Heads and struts: the heads' faces 0.75 w = 14.025 before f; the struts' feet at z 0, their
   // sides at 1.05 w; the heads' tops at 0.636 w.
   const Mesh black = PartIn(model, kBlackSide);
   EXPECT_EQ(TriangleCount(black), 4U * 10);
-  ExpectBounds(black, {-3.259F, -19.635F, 0}, {10.205F, 19.635F, 11.893F});
+  ExpectBounds(black, {20.891F, -19.635F, 0}, {34.355F, 19.635F, 11.893F});
 }
 
 TEST(EndStop, IsBuiltOfEightClosedBoxes) {
@@ -99,9 +98,9 @@ TEST(EndStop, IsBuiltOfEightClosedBoxes) {
 }
 
 TEST(EndStop, IsNarrowerOnZTrack) {
-  // w is 6 and the length 15: f = 11.25 - 0.42 = 10.83, less 7.5. Only the stop is narrower.
+  // w is 6 and the length 15: f = 11.25 - 0.42 = 10.83. Only the stop is narrower.
   const Model model = ModelOf("8991");
-  ExpectBounds(PartIn(model, kBeamSide), {3.33F, -6.3F, 1.86F}, {4.17F, 6.3F, 4.14F});
+  ExpectBounds(PartIn(model, kBeamSide), {10.83F, -6.3F, 1.86F}, {11.67F, 6.3F, 4.14F});
   ExpectBounds(PartIn(model, kBallastTop), {0, -18.7F, 2}, {15, 18.7F, 2});
 }
 

@@ -13,14 +13,14 @@ constexpr SolidColours kBlack{.side = {0.07F, 0.07F, 0.07F}, .top = {0.12F, 0.12
 void AddEndStop(Mesh& mesh, const PieceDef& def) {
   AddTrackStrip(mesh, StraightPath(0, 0, def.length, 0, 2));
 
-  // All of the stop is measured in half widths of the track. Its boxes are placed like a scenery
-  // item's, around the piece's origin: the footprint's corner lies half a length behind it.
+  // All of the stop is measured in half widths of the track. The corner of its footprint stands at
+  // (0, -w) of the piece, so that the beam comes to lie at three quarters of the length.
   const float w = def.system == TrackSystem::MarklinZ ? 6.0F : 18.7F;
   const auto length = static_cast<float>(def.length);
   const Footprint footprint{length, 2.0F * w};
   const float front = 0.75F * length - 0.07F * w;
   const auto box = [&](Vec3f corner, Vec3f size, SolidColours colours) {
-    AddBox(mesh, corner, size, colours, footprint);
+    AddBox(mesh, {corner.x + length / 2.0F, corner.y, corner.z}, size, colours, footprint);
   };
   box({front, -0.05F * w, 0.31F * w}, {0.14F * w, 2.1F * w, 0.38F * w}, kBeam);
   box({front - 0.2F * w, 0.75F * w, 0.3F * w}, {0.2F * w, 0.5F * w, 0.4F * w}, kRedBlock);
