@@ -10,6 +10,7 @@
 
 #include <iterator>
 
+#include "canvas/autofill_dialog.h"
 #include "canvas/event_order.h"
 #include "canvas/gestures/deleting.h"
 #include "canvas/gestures/helix_placement.h"
@@ -299,6 +300,11 @@ bool CanvasPanel::ask(const std::string& title, const std::string& text, bool de
                       wxGetTopLevelParent(this)) == wxYES;
 }
 
+int CanvasPanel::chooseAutofill(double gapMm, const std::vector<std::string>& rows) {
+  AutofillDialog dialog(this, gapMm, rows);
+  return dialog.ShowModal() == wxID_OK ? dialog.row() : kNone;
+}
+
 int CanvasPanel::popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) {
   wxMenu menu;
   int taken = 0;
@@ -323,6 +329,10 @@ void CanvasPanel::selectionChanged() {
 
 void CanvasPanel::markDirty() {
   workspace_.markDirty();
+}
+
+void CanvasPanel::refreshViews() {
+  workspace_.refreshViews();
 }
 
 void CanvasPanel::noteCanvasClick(Vec2 world) {

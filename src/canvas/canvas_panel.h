@@ -7,6 +7,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "canvas/gestures/canvas_context.h"
 #include "canvas/gestures/pointer_event.h"
@@ -73,11 +74,13 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
   std::string status(StatusField field) const override;
   void inform(const std::string& title, const std::string& text, BoxIcon icon) override;
   bool ask(const std::string& title, const std::string& text, bool defaultYes) override;
+  int chooseAutofill(double gapMm, const std::vector<std::string>& rows) override;
   int popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) override;
   void startFlashTimer(int milliseconds) override;
   void stopFlashTimer() override;
   void selectionChanged() override;
   void markDirty() override;
+  void refreshViews() override;
   void noteCanvasClick(Vec2 world) override;
 
   Workspace& workspace_;

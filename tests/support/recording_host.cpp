@@ -75,6 +75,16 @@ void RecordingHost::markDirty() {
   ++dirtyMarks;
 }
 
+void RecordingHost::refreshViews() {
+  ++viewRefreshes;
+}
+
+int RecordingHost::chooseAutofill(double gapMm, const std::vector<std::string>& rows) {
+  offeredGap = gapMm;
+  offeredFills = rows;
+  return chosenFill;
+}
+
 void RecordingHost::noteCanvasClick(Vec2 world) {
   canvasClicks.push_back(world);
 }

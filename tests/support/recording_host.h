@@ -27,14 +27,18 @@ class RecordingHost : public CanvasHost {
   int dirtyMarks = 0;
   std::vector<CanvasCursor> cursors;  // all that were set, in order
   std::vector<RecordedBox> boxes;
-  bool answer = false;  // what `ask` returns
-  std::vector<bool> defaults;  // the default answers of the questions, in order
+  bool answer = false;                        // what `ask` returns
+  std::vector<bool> defaults;                 // the default answers of the questions, in order
   std::vector<std::vector<MenuEntry>> menus;  // all that popped up, in order
   DevicePoint menuAt;
-  int choice = 0;     // what `popUpMenu` returns
-  int timerMs = 0;    // of the flash timer when it runs, else 0
+  int choice = 0;   // what `popUpMenu` returns
+  int timerMs = 0;  // of the flash timer when it runs, else 0
   int timerStarts = 0;
   std::vector<Vec2> canvasClicks;
+  int viewRefreshes = 0;
+  std::vector<std::string> offeredFills;  // the rows last offered
+  double offeredGap = 0.0;
+  int chosenFill = kNone;  // what `chooseAutofill` returns
 
   CanvasCursor cursor() const { return cursors.empty() ? CanvasCursor::normal : cursors.back(); }
 
@@ -52,8 +56,10 @@ class RecordingHost : public CanvasHost {
   int popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) override;
   void startFlashTimer(int milliseconds) override;
   void stopFlashTimer() override;
+  int chooseAutofill(double gapMm, const std::vector<std::string>& rows) override;
   void selectionChanged() override;
   void markDirty() override;
+  void refreshViews() override;
   void noteCanvasClick(Vec2 world) override;
 
  private:

@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string>
+#include <vector>
 
 #include "doc/view_transform.h"
 #include "workspace/workspace.h"
@@ -41,6 +42,9 @@ class CanvasHost {
   virtual void inform(const std::string& title, const std::string& text, BoxIcon icon) = 0;
   virtual bool ask(const std::string& title, const std::string& text, bool defaultYes) = 0;
 
+  // Lets the user choose among the rows of track that fill a gap; the row, or kNone when cancelled.
+  virtual int chooseAutofill(double gapMm, const std::vector<std::string>& rows) = 0;
+
   // Pops a menu up at a client point; the id of the entry taken, or 0.
   virtual int popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) = 0;
 
@@ -50,6 +54,8 @@ class CanvasHost {
 
   virtual void selectionChanged() = 0;
   virtual void markDirty() = 0;
+  // Repaints the canvas and rebuilds an open 3D view.
+  virtual void refreshViews() = 0;
   virtual void noteCanvasClick(Vec2 world) = 0;
 };
 

@@ -1,0 +1,104 @@
+#include "canvas/autofill_dialog.h"
+
+#include <gtest/gtest.h>
+#include <wx/button.h>
+#include <wx/frame.h>
+#include <wx/listbox.h>
+#include <wx/stattext.h>
+
+#include <string>
+#include <vector>
+
+#include "doc/records.h"
+#include "tests/support/modal_script.h"
+
+namespace vantrel {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class AutofillDialogTest : public testing::Test {
+ protected:
+  AutofillDialogTest() { frame->Show(); }
+  ~AutofillDialogTest() override { frame->Destroy(); }
+
+  static wxListBox& listOf(wxDialog& dialog) { return *FindControl<wxListBox>(dialog); }
+
+  wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "canvas", wxPoint(0, 0), wxSize(900, 700));
+  Texts rows{"24188  (188.3 mm)", "24094 + 24094  (188.4 mm)", "third"};
+};
+
+TEST_F(AutofillDialogTest, ShowsTheGapTheRowsAndTwoButtons) {
+  AutofillDialog dialog(frame, 188.26, rows);
+  EXPECT_EQ(dialog.GetTitle(), "Autofill Gap");
+  EXPECT_EQ(FindControl<wxStaticText>(dialog)->GetLabel(), "Gap: 188.3 mm. Select fill:");
+  Texts shown;
+  for (const wxString& text : listOf(dialog).GetStrings()) shown.push_back(text.utf8_string());
+  EXPECT_EQ(shown, rows);
+  const std::vector<wxButton*> buttons = FindControls<wxButton>(dialog);
+  ASSERT_EQ(buttons.size(), 2u);
+  EXPECT_EQ(buttons[0]->GetLabel(), "Place");
+  EXPECT_EQ(buttons[0]->GetId(), wxID_OK);
+  EXPECT_EQ(buttons[1]->GetLabel(), "Cancel");
+  EXPECT_EQ(buttons[1]->GetId(), wxID_CANCEL);
+  EXPECT_EQ(dialog.GetDefaultItem(), buttons[0]) << "Enter places";
+}
+
+TEST_F(AutofillDialogTest, StartsOnItsFirstRowWithTheKeyboardInTheList) {
+  AutofillDialog dialog(frame, 188.3, rows);
+  EXPECT_EQ(dialog.row(), 0);
+  EXPECT_EQ(listOf(dialog).GetWindowStyle() & (wxLB_MULTIPLE | wxLB_EXTENDED), 0);
+}
+
+TEST_F(AutofillDialogTest, IsResizableAndOfItsSizeWhateverTheRowsHold) {
+  // 32 pieces in one row: the list scrolls, and doesn't widen the dialog.
+  rows.push_back("24360");
+  for (int i = 1; i < 32; ++i) rows.back() += " + 24360";
+  AutofillDialog dialog(frame, 11520.0, rows);
+  EXPECT_TRUE(dialog.HasFlag(wxRESIZE_BORDER));
+  EXPECT_EQ(dialog.GetSize(), wxSize(380, 320));
+}
+
+TEST_F(AutofillDialogTest, CutsNoControlOff) {
+  AutofillDialog dialog(frame, 188.3, rows);
+  for (const wxButton* button : FindControls<wxButton>(dialog)) {
+    EXPECT_GE(button->GetSize().x, button->GetBestSize().x);
+    EXPECT_GE(button->GetSize().y, button->GetBestSize().y);
+    EXPECT_TRUE(dialog.GetClientRect().Contains(button->GetRect()));
+  }
+}
+
+TEST_F(AutofillDialogTest, StandsInTheMiddleOfItsParent) {
+  frame->Move(100, 60);
+  AutofillDialog dialog(frame, 188.3, rows);
+  EXPECT_EQ(dialog.GetParent(), frame);
+  const wxRect parent = frame->GetRect();
+  const wxRect own = dialog.GetRect();
+  EXPECT_NEAR(own.x + own.width / 2, parent.x + parent.width / 2, 2);
+  EXPECT_NEAR(own.y + own.height / 2, parent.y + parent.height / 2, 2);
+}
+
+TEST_F(AutofillDialogTest, ADoubleClickPlacesTheRow) {
+  AutofillDialog dialog(frame, 188.3, rows);
+  ModalScript script;
+  script.shown("Autofill Gap", [](wxDialog& shown) {
+    listOf(shown).SetSelection(2);
+    wxCommandEvent event(wxEVT_LISTBOX_DCLICK, listOf(shown).GetId());
+    event.SetEventObject(&listOf(shown));
+    event.SetInt(2);
+    listOf(shown).ProcessWindowEvent(event);
+  });
+  EXPECT_EQ(dialog.ShowModal(), wxID_OK);
+  EXPECT_EQ(dialog.row(), 2);
+}
+
+TEST_F(AutofillDialogTest, TellsWhenNoRowIsSelected) {
+  AutofillDialog dialog(frame, 188.3, rows);
+  listOf(dialog).SetSelection(wxNOT_FOUND);
+  EXPECT_EQ(dialog.row(), kNone);
+  AutofillDialog empty(frame, 188.3, {});
+  EXPECT_EQ(empty.row(), kNone);
+}
+
+}  // namespace
+}  // namespace vantrel
