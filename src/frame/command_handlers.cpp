@@ -12,6 +12,7 @@
 #include "canvas/gestures/view_navigation.h"
 #include "canvas/operations/locks.h"
 #include "canvas/operations/removal.h"
+#include "canvas/operations/tunnels.h"
 #include "doc/layout_ops.h"
 #include "doc/undo.h"
 #include "frame/commands.h"
@@ -112,6 +113,12 @@ void MainFrame::onHideLabels(wxCommandEvent& event) {
   refreshViews();
 }
 
+void MainFrame::onTunnel(wxCommandEvent&) {
+  if (!toggleTunnel(layout_)) return;
+  markDirty();
+  refreshViews();
+}
+
 void MainFrame::onTool(wxCommandEvent& event) {
   switchTool(event.GetId(), event.IsChecked());
 }
@@ -145,6 +152,17 @@ void MainFrame::onOptions(wxCommandEvent&) {
 void MainFrame::onUpdateUi(wxUpdateUIEvent& event) {
   const int id = event.GetId();
   event.Enable(IsCommandAvailable(id) && DocumentAllows(id, layout_));
+}
+
+void MainFrame::onUpdateTunnel(wxUpdateUIEvent& event) {
+  const TunnelPlan plan = planTunnel(layout_);
+  event.Enable(plan.valid);
+  wxToolBarToolBase* const tool = GetToolBar()->FindById(kCmdTunnel);
+  const wxString label = plan.removing ? "Remove Tunnel" : "Tunnel";
+  // This runs at every idle moment: the toolbar is laid out anew for a change only.
+  if (tool->GetLabel() == label) return;
+  tool->SetLabel(label);
+  GetToolBar()->Realize();
 }
 
 }  // namespace vantrel

@@ -61,7 +61,7 @@ constexpr Command kCommands[] = {
     {.id = kCmdTunnel, .place = toolbar, .label = "Tunnel",
      .tooltip =
          "Place tunnel portals on the selected chain (or remove if already in a tunnel)",
-     .available = false},
+     .startsEnabled = false},
     {.id = kCmdMeasure, .place = toolbar, .label = "Measure", .kind = check,
      .tooltip =
          "Measuring tape: click two points on the canvas to lay down a length annotation",

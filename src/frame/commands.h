@@ -59,6 +59,7 @@ struct Command {
   bool checked = false;  // at the start
   const char* tooltip = "";
   bool separatorAfter = false;
+  bool startsEnabled = true;
   // What it does is built. Otherwise the command stands at its place, disabled.
   bool available = true;
 };
@@ -73,7 +74,8 @@ const char* PlaceLabel(CommandPlace place);
 bool IsCommandAvailable(int id);
 
 // Whether the document lets a command be chosen: something to undo, to redo, to delete. True for
-// commands without such a rule.
+// commands without such a rule. The tunnel tool's label follows the document too, so the frame asks
+// for its plan itself.
 bool DocumentAllows(int id, const Layout& layout);
 
 }  // namespace vantrel

@@ -103,11 +103,13 @@ class MainFrame : public wxFrame, public Workspace {
   void onSnap(wxCommandEvent& event);
   void onUnits(wxCommandEvent& event);
   void onHideLabels(wxCommandEvent& event);
+  void onTunnel(wxCommandEvent& event);
   void onTool(wxCommandEvent& event);
   void onValidate(wxCommandEvent& event);
   void onLayoutProperties(wxCommandEvent& event);
   void onOptions(wxCommandEvent& event);
   void onUpdateUi(wxUpdateUIEvent& event);
+  void onUpdateTunnel(wxUpdateUIEvent& event);
   void onCloseWindow(wxCloseEvent& event);
 
   ProgramFolders folders_;

@@ -69,7 +69,7 @@ void FillToolBar(wxToolBar& bar) {
   for (const Command& command : Commands()) {
     if (command.place != CommandPlace::toolbar) continue;
     bar.AddTool(command.id, command.label, wxNullBitmap, command.tooltip, ItemKind(command.kind));
-    if (!command.available) bar.EnableTool(command.id, false);
+    if (!command.available || !command.startsEnabled) bar.EnableTool(command.id, false);
     if (command.separatorAfter) bar.AddSeparator();
   }
   bar.Realize();
