@@ -35,6 +35,7 @@ constexpr int kScrollStep = 10;
 // Lines that a text may take before it is shortened.
 constexpr int kTitleLines = 4;
 constexpr int kInfoLines = 3;
+constexpr int kHintLines = 4;
 
 constexpr double kGradeStepDeg = 0.5;
 
@@ -105,6 +106,10 @@ void PropertiesPanel::buildTitle(wxSizer* column) {
   titleLabel_->SetFont(titleLabel_->GetFont().Bold());
   texts->AddSpacer(kTightGap);
   infoLabel_ = AddWrapped(this, texts, "infoLabel", kInfoLines);
+  // Room for what nearly all pages need, so that the controls below stay where they are.
+  const int usualHeight =
+      2 * titleLabel_->GetCharHeight() + kTightGap + infoLabel_->GetCharHeight();
+  texts->SetMinSize(0, usualHeight);
   column->Add(texts, 0, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, kBorder + kPadding);
 }
 
@@ -153,8 +158,9 @@ void PropertiesPanel::buildGradeBox(wxSizer* column) {
   inside->Add(gradeRow, 0, wxEXPAND | wxTOP, kGap);
   gradeWarning_ = AddWrapped(box, inside, "gradeWarning", kInfoLines);
   gradeWarning_->SetForegroundColour(kWarningColour);
-  inside->Add(new wxStaticText(box, wxID_ANY, "Set height above baseboard.\nMax grade: 6 deg."), 0,
-              wxTOP, kTightGap);
+  inside->AddSpacer(kTightGap);
+  hint_ = AddWrapped(box, inside, "hint", kHintLines);
+  hint_->setText("Set height above baseboard.\nMax grade: 6 deg.");
   buildGradeSettings(box, inside);
   buildGradeButtons(box, inside);
 }

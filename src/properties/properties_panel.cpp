@@ -148,7 +148,7 @@ void PropertiesPanel::fitToWidth() {
   bool changed = false;
   for (wxBoxSizer* row : {gradeSettings_, gradeButtons_})
     if (StackIfNarrow(*row)) changed = true;
-  for (WrappedLabel* label : {titleLabel_, infoLabel_, gradeWarning_})
+  for (WrappedLabel* label : {titleLabel_, infoLabel_, gradeWarning_, hint_})
     if (label->wrapTo(label->GetSize().x)) changed = true;
   if (changed) FitInside();
 }
@@ -160,6 +160,11 @@ void PropertiesPanel::onSize(wxSizeEvent& event) {
 
 void PropertiesPanel::bindEvents() {
   Bind(wxEVT_SIZE, &PropertiesPanel::onSize, this);
+  // A press puts the caret where it is: only after that may the number be selected to be replaced.
+  heightField_->Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
+    event.Skip();
+    CallAfter([this] { heightField_->SelectAll(); });
+  });
   const auto bind = [this](const auto& type, int id, void (PropertiesPanel::*handler)()) {
     Bind(
         type, [this, handler](wxCommandEvent&) { (this->*handler)(); }, id);
@@ -179,6 +184,7 @@ void PropertiesPanel::enterHeight() {
     return;
   workspace_.markDirty();
   showSelection(Typed::replace);
+  heightField_->SelectAll();  // ready for another number
   workspace_.refreshViews();
 }
 

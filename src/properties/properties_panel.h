@@ -102,6 +102,7 @@ class PropertiesPanel : public wxScrolled<wxPanel> {
   wxTextCtrl* heightField_ = nullptr;
   wxStaticText* gradeValue_ = nullptr;
   WrappedLabel* gradeWarning_ = nullptr;
+  WrappedLabel* hint_ = nullptr;
   wxBoxSizer* gradeSettings_ = nullptr;
   wxRadioButton* gradeUp_ = nullptr;
   wxRadioButton* gradeDown_ = nullptr;

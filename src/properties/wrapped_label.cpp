@@ -30,27 +30,30 @@ wxString WrappedLabel::brokenText(int width) const {
   wxString broken;
   wxString rest = text_;
   for (int line = 1; !rest.empty(); ++line) {
-    const std::size_t end = lineEnd(rest, width);
+    const wxString paragraph = rest.BeforeFirst('\n');
+    const std::size_t end = lineEnd(paragraph, width);
+    const bool paragraphEnds = end == paragraph.length();
     if (line == maxLines_ && end < rest.length())
-      return broken + shortened(rest.Left(kLongestLine), width);
-    broken += rest.Left(end).Trim();
-    rest = rest.Mid(end).Trim(false);
+      return broken + shortened(paragraph.Left(kLongestLine), width);
+    broken += paragraph.Left(end).Trim();
+    // The line break of the text goes with its line, and so do the blanks at one that is made here.
+    rest = paragraphEnds ? rest.Mid(end + 1) : rest.Mid(end).Trim(false);
     if (!rest.empty()) broken += '\n';
   }
   return broken;
 }
 
-// Where a line that begins with `rest` ends: behind the last blank that fits or, in a word that is
+// Where the first line of a paragraph ends: behind the last blank that fits or, in a word that is
 // longer than the line, behind the last letter that fits. At least one letter is taken.
-std::size_t WrappedLabel::lineEnd(const wxString& rest, int width) const {
-  const wxString ahead = rest.Left(kLongestLine);
+std::size_t WrappedLabel::lineEnd(const wxString& paragraph, int width) const {
+  const wxString ahead = paragraph.Left(kLongestLine);
   wxArrayInt ends;
   wxClientDC dc(const_cast<WrappedLabel*>(this));
   dc.SetFont(GetFont());
   dc.GetPartialTextExtents(ahead, ends);
   std::size_t fitting = 0;
   while (fitting < ends.size() && ends[fitting] <= width) ++fitting;
-  if (fitting == rest.length()) return fitting;
+  if (fitting == paragraph.length()) return fitting;
   const std::size_t blank = ahead.rfind(' ', fitting);
   if (blank != wxString::npos && blank > 0) return blank + 1;
   return fitting > 0 ? fitting : 1;

@@ -20,7 +20,7 @@ class WrappedLabel : public wxStaticText {
 
  private:
   wxString brokenText(int width) const;
-  std::size_t lineEnd(const wxString& rest, int width) const;
+  std::size_t lineEnd(const wxString& paragraph, int width) const;
   wxString shortened(wxString line, int width) const;
 
   wxString text_;
