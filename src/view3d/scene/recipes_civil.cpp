@@ -1,5 +1,6 @@
 // Bridges, and the masonry that a line needs: pier, tunnel portals, retaining wall.
 #include <cmath>
+#include <cstddef>
 
 #include "catalog/piece_builders.h"
 #include "view3d/scene/recipes.h"
@@ -8,6 +9,9 @@
 
 namespace vantrel::recipes {
 namespace {
+
+// By which the sides of a bridge reach over its deck.
+constexpr float kSideProud = 0.5F;
 
 constexpr Rgb kKeystone{0.62F, 0.57F, 0.5F};
 
@@ -71,10 +75,11 @@ void MakeArchBridge(Item& item) {
   constexpr Rgb kDeck{0.38F, 0.4F, 0.44F};
   constexpr Rgb kGirder{0.55F, 0.58F, 0.62F};
   const float w = item.width();
-  // The arch's own deck lies just below the box.
+  // The arch's own deck lies just below the box. The side girders stand proud of the arch's feet
+  // and of the deck, as no two faces in one plane should differ in colour.
   AddTrackBridge(item, AddArchBridge, kDeckZ);
   item.box({0, 8, kDeckZ}, {w, item.depth() - 16.0F, 4}, kDeck);
-  AddOnBothSides(item, {0, 0, 10}, {w, 9, 10}, kGirder);
+  AddOnBothSides(item, {-kSideProud, -kSideProud, 10}, {w + 2.0F * kSideProud, 9, 10}, kGirder);
 }
 
 void MakeTrussBridge(Item& item) {
@@ -83,9 +88,11 @@ void MakeTrussBridge(Item& item) {
   constexpr float kPost = 5.0F;
   const float w = item.width();
   item.box({0, 14, 0}, {w, item.depth() - 28.0F, 4}, kDeck);
-  AddOnBothSides(item, {0, 8, 0}, {w, 8, 5}, kChord);
-  AddOnBothSides(item, {0, 8, 32}, {w, 6, 5}, kChord);
-  for (const float x : {0.0F, w - kPost}) AddOnBothSides(item, {x, 8, 0}, {kPost, 6, 37}, kChord);
+  const float length = w + 2.0F * kSideProud;
+  AddOnBothSides(item, {-kSideProud, 8, 0}, {length, 8, 5}, kChord);
+  AddOnBothSides(item, {-kSideProud, 8, 32}, {length, 6, 5}, kChord);
+  for (const float x : {-kSideProud, w + kSideProud - kPost})
+    AddOnBothSides(item, {x, 8, 0}, {kPost, 6, 37}, kChord);
 }
 
 void MakeViaductPier(Item& item) {
@@ -101,14 +108,16 @@ void MakeViaductPier(Item& item) {
 void MakeArchedPortal(Item& item) {
   constexpr int kBlocks = 12;
   constexpr float kBlockHeight = 8.0F;
-  constexpr float kJoint = 1.0F;  // by which a block reaches into its neighbours
+  constexpr float kJoint = 1.0F;  // of mortar to both sides of a block
   constexpr float kProud = 0.4F;  // so that no two stones share a face
   const float w = item.width();
   const float d = item.depth();
   const float pillar = 0.18F * d;
   const float radius = 0.32F * d;
   for (const float y : {0.0F, d - pillar}) item.box({0, y, 0}, {w, pillar, 0.75F * d}, kDarkStone);
-  const float block = radius * static_cast<float>(kPi) / kBlocks;
+  // With their mortar the two blocks at the crown just meet.
+  const float block =
+      2.0F * radius * static_cast<float>(std::sin(kPi / kBlocks / 2.0)) - 2.0F * kJoint;
   for (int i = 0; i < kBlocks; ++i) {
     const double angle = (i + 0.5) / kBlocks * kPi;
     const float y = 0.5F * d + radius * static_cast<float>(std::cos(angle));

@@ -1,6 +1,7 @@
 #include "view3d/scene/scenery_models.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "view3d/scene/recipes.h"
