@@ -38,12 +38,6 @@ std::vector<std::size_t> HelicesOfSelection(const Layout& layout) {
   return places;
 }
 
-Helix* FindHelix(Layout& layout, std::int32_t id) {
-  for (Helix& helix : layout.helices)
-    if (helix.id == id) return &helix;
-  return nullptr;
-}
-
 // Opens the slots that lead out of the selection and shows openFarSide the piece over there, the
 // piece they belong to and what they held.
 template <typename OpenFarSide>
@@ -224,11 +218,14 @@ void moveSelection(Layout& layout, const MoveStart& start, Vec2 by) {
   };
   for (Piece& piece : layout.pieces) move(piece);
   for (SceneryItem& item : layout.scenery) move(item);
-  for (const HelixStart& from : start.helices) {
-    Helix* const helix = FindHelix(layout, from.id);
-    if (helix == nullptr) continue;
-    helix->cx = from.cx + by.x;
-    helix->cy = from.cy + by.y;
+  // A helix whose stubs have been deselected meanwhile stays with them.
+  if (start.helices.empty()) return;
+  for (const std::size_t place : HelicesOfSelection(layout)) {
+    Helix& helix = layout.helices[place];
+    const auto from = std::ranges::find(start.helices, helix.id, &HelixStart::id);
+    if (from == start.helices.end()) continue;
+    helix.cx = from->cx + by.x;
+    helix.cy = from->cy + by.y;
   }
 }
 

@@ -31,7 +31,8 @@ MoveStart takeSceneryMoveStart(const Layout& layout);
 void breakEdgeJoints(Layout& layout);
 
 // Sets the i-th selected piece, then the selected scenery items with the entries after the pieces,
-// and the helices to their start plus `by` (mm), as far as the start reaches. Headings stay.
+// and the helices of selected pieces to their start plus `by` (mm), as far as the start reaches.
+// Headings stay.
 void moveSelection(Layout& layout, const MoveStart& start, Vec2 by);
 
 // The shortest snap of the whole block.
