@@ -48,6 +48,16 @@ TEST_F(ScaleHandles, TheCursorTellsOverWhichHandleThePointerIs) {
   EXPECT_EQ(host.cursor(), CanvasCursor::normal);
 }
 
+TEST_F(ScaleHandles, AfterAPanFromAHandleTheCursorIsTheHandlesAgain) {
+  move(right(), 400);
+  pressMiddle(right(), 400);
+  EXPECT_EQ(host.cursor(), CanvasCursor::hand);
+  releaseMiddle(right(), 400);
+  EXPECT_EQ(host.cursor(), CanvasCursor::normal);
+  move(right(), 401);
+  EXPECT_EQ(host.cursor(), CanvasCursor::sizeWe);
+}
+
 TEST_F(ScaleHandles, WithAButtonOrSomethingAtThePointerTheCursorStays) {
   held.middleDown = true;
   move(right(), 400);

@@ -106,11 +106,13 @@ bool pressScaleHandle(CanvasContext& context, const PointerEvent& event) {
   return true;
 }
 
-// The cursor is only set when it changes: others set cursors of their own.
+// Over a handle the cursor is always set: a pan from there has left another one. Elsewhere only
+// when the pointer leaves a handle: others set cursors of their own.
 bool hoverScaleHandle(CanvasContext& context, const PointerEvent& event) {
   if (!IsHoverTime(context.state, event)) return false;
   const CanvasCursor wanted = CursorOver(HandleAt(context, event.at));
-  if (wanted != context.state.handleCursor) context.host.setCursor(wanted);
+  if (wanted != CanvasCursor::normal || context.state.handleCursor != CanvasCursor::normal)
+    context.host.setCursor(wanted);
   context.state.handleCursor = wanted;
   return false;
 }
