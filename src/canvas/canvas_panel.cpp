@@ -218,6 +218,11 @@ void CanvasPanel::showGrid(bool visible) {
   vantrel::showGrid(canvas, visible);
 }
 
+void CanvasPanel::endGestures() {
+  CanvasContext canvas = context();
+  vantrel::endGestures(canvas);
+}
+
 void CanvasPanel::cancelPaletteDrag() {
   CanvasContext canvas = context();
   vantrel::cancelPaletteDrag(canvas);

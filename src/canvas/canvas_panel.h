@@ -34,6 +34,9 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
   void resetViewUnitScale();
   void showGrid(bool visible);
 
+  // Ends a gesture that is under way between a press and its release, as the release would: for
+  // what goes on to change the document beneath it.
+  void endGestures();
   // Ends whatever hangs at the pointer, without a trace in the document.
   void cancelPaletteDrag();
   // The cross of the tools that click points, or the normal arrow.

@@ -45,14 +45,29 @@ using KeyStep = bool (*)(CanvasContext&, const KeyEvent&);
 using PaintStep = void (*)(const CanvasContext&, wxDC&);
 
 bool endMissedGesture(CanvasContext& context, const PointerEvent& event);
+bool endGestureBeforePress(CanvasContext& context, const PointerEvent& event);
+bool endTheRest(CanvasContext& context, const PointerEvent& event);
+bool endBandOrDrag(CanvasContext& context, const PointerEvent& event);
 
 // In each list the first step that takes the event ends it.
 
 constexpr PointerStep kLeftPress[] = {
-    takeFocus,  // takes nothing
-    clickToolPress, pressMeasurement, pressShape,         pressScaleHandle, pressAltRotate,
-    swallowPress,   dropDraggedPiece, dropDraggedScenery, dropHelix,        pressLabel,
-    pressPiece,     pressDeckOutline, pressScenery,       pressEmptyCanvas,
+    takeFocus,              // takes nothing
+    endGestureBeforePress,  // takes nothing
+    clickToolPress,
+    pressMeasurement,
+    pressShape,
+    pressScaleHandle,
+    pressAltRotate,
+    swallowPress,
+    dropDraggedPiece,
+    dropDraggedScenery,
+    dropHelix,
+    pressLabel,
+    pressPiece,
+    pressDeckOutline,
+    pressScenery,
+    pressEmptyCanvas,
 };
 
 constexpr PointerStep kMotion[] = {
@@ -78,18 +93,22 @@ constexpr PointerStep kMotion[] = {
 };
 
 constexpr PointerStep kLeftRelease[] = {
-    endShapeMove,        endMeasureMove, endDeckDrag,   endSceneryResize, endAltRotate,
-    endSelectionPending,  // takes nothing
-    endLabelDrag,        endPans,        endRubberBand, endSelectionDrag,
+    endShapeMove, endMeasureMove, endDeckDrag, endSceneryResize, endAltRotate, endTheRest,
 };
 
-constexpr PointerStep kDoubleClick[] = {cloneFromPiece};
+// These all end with one release: a pan may run beside any of the others.
+constexpr PointerStep kTheRest[] = {endSelectionPending, endLabelDrag, endButtonPan, endBandOrDrag};
 
-constexpr PointerStep kMiddlePress[] = {beginButtonPan};
+constexpr PointerStep kDoubleClick[] = {
+    endGestureBeforePress,  // takes nothing
+    cloneFromPiece,
+};
+
+constexpr PointerStep kMiddlePress[] = {takeFocus, beginButtonPan};
 constexpr PointerStep kMiddleRelease[] = {endButtonPan};
 
-constexpr PointerStep kRightPress[] = {paletteDragRightPress, sceneryDragRightPress, altRightPress,
-                                       contextMenuPress};
+constexpr PointerStep kRightPress[] = {takeFocus, paletteDragRightPress, sceneryDragRightPress,
+                                       altRightPress, contextMenuPress};
 
 // Turning comes before zooming, so the view stays while something hangs at the pointer.
 constexpr PointerStep kWheel[] = {paletteDragWheel, sceneryDragWheel, selectionWheel, wheelZoom};
@@ -121,10 +140,31 @@ bool OfferRelease(std::span<const PointerStep> steps, CanvasContext& context,
   return taken;
 }
 
+bool endTheRest(CanvasContext& context, const PointerEvent& event) {
+  bool ended = false;
+  for (const PointerStep step : kTheRest) ended = step(context, event) || ended;
+  return ended;
+}
+
+bool endBandOrDrag(CanvasContext& context, const PointerEvent& event) {
+  return endRubberBand(context, event) || endSelectionDrag(context, event);
+}
+
+void EndLeftGestures(CanvasContext& context, const PointerEvent& event) {
+  while (isLeftGestureActive(context.state)) onLeftRelease(context, event);
+}
+
 // A release that went elsewhere, to a box or to another window: the gesture ends with the first
-// motion that comes without the button.
+// motion that comes without the button ...
 bool endMissedGesture(CanvasContext& context, const PointerEvent& event) {
-  if (!event.leftDown && isLeftGestureActive(context.state)) onLeftRelease(context, event);
+  if (!event.leftDown) EndLeftGestures(context, event);
+  return false;
+}
+
+// ... or, when the pointer hasn't moved since, before the next press does anything.
+bool endGestureBeforePress(CanvasContext& context, const PointerEvent& event) {
+  cancelRubberBand(context);  // nobody let go of it here
+  EndLeftGestures(context, event);
   return false;
 }
 
@@ -138,8 +178,10 @@ bool onMotion(CanvasContext& context, const PointerEvent& event) {
   return Offer(kMotion, context, event);
 }
 
+// The pan with Space has no button of its own: it ends beside whatever else the release ends.
 bool onLeftRelease(CanvasContext& context, const PointerEvent& event) {
-  return OfferRelease(kLeftRelease, context, event);
+  const bool panned = endSpacePan(context, event);
+  return OfferRelease(kLeftRelease, context, event) || panned;
 }
 
 bool onDoubleClick(CanvasContext& context, const PointerEvent& event) {
@@ -174,12 +216,16 @@ bool onCharacter(CanvasContext& context, const KeyEvent& event) {
   return Offer<KeyStep, KeyEvent>(kCharacters, context, event);
 }
 
-// What hangs at the pointer goes on following it without the capture, and what was moved stays
-// where it is; nothing is lost. A band has selected nothing yet.
-void onCaptureLost(CanvasContext& context) {
+// A band has selected nothing yet, so it goes without selecting.
+void endGestures(CanvasContext& context) {
   abandonButtonPan(context);
   cancelRubberBand(context);
-  if (isLeftGestureActive(context.state)) onLeftRelease(context, {});
+  EndLeftGestures(context, {});
+  context.host.releaseMouse();
+}
+
+void onCaptureLost(CanvasContext& context) {
+  endGestures(context);
 }
 
 void onFlashTimer(CanvasContext& context) {

@@ -24,7 +24,11 @@ bool onKey(CanvasContext& context, const KeyEvent& event);
 // A typed character; the event's code is the character.
 bool onCharacter(CanvasContext& context, const KeyEvent& event);
 
-// The mouse was taken away by another window or a dialog.
+// Ends what is under way between a press and its release as a release would, and gives the mouse
+// back. What hangs at the pointer goes on following it, and what was moved stays where it is.
+void endGestures(CanvasContext& context);
+
+// The mouse was taken away by another window or a dialog: endGestures.
 void onCaptureLost(CanvasContext& context);
 
 // The time that startFlashTimer asked for has passed.

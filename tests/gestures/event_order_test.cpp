@@ -21,6 +21,16 @@ TEST_F(EventOrder, ALeftPressTakesTheFocusWhoeverTakesThePress) {
   EXPECT_EQ(layout.pieces, before);
 }
 
+TEST_F(EventOrder, EveryPressBringsTheKeysToTheCanvas) {
+  clickLeft(500, 500);
+  EXPECT_EQ(host.focusTaken, 1);
+  pressMiddle(500, 500);
+  releaseMiddle(500, 500);
+  EXPECT_EQ(host.focusTaken, 2);
+  pressRight(500, 500);
+  EXPECT_EQ(host.focusTaken, 3);
+}
+
 TEST_F(EventOrder, AnyReleaseGivesTheMouseBack) {
   for (const auto release : {onLeftRelease, onMiddleRelease, onRightRelease}) {
     host.captured = true;

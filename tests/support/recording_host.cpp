@@ -43,16 +43,19 @@ std::string RecordingHost::status(StatusField field) const {
 }
 
 void RecordingHost::inform(const std::string& title, const std::string& text, BoxIcon icon) {
+  if (captured) ++popUpsWhileCaptured;
   boxes.push_back({title, text, icon});
 }
 
 bool RecordingHost::ask(const std::string& title, const std::string& text, bool defaultYes) {
+  if (captured) ++popUpsWhileCaptured;
   boxes.push_back({title, text, BoxIcon::question});
   defaults.push_back(defaultYes);
   return answer;
 }
 
 int RecordingHost::popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) {
+  if (captured) ++popUpsWhileCaptured;
   menus.emplace_back(entries.begin(), entries.end());
   menuAt = at;
   return choice;

@@ -27,6 +27,7 @@ class RecordingHost : public CanvasHost {
   int dirtyMarks = 0;
   std::vector<CanvasCursor> cursors;  // all that were set, in order
   std::vector<RecordedBox> boxes;
+  int popUpsWhileCaptured = 0;                // boxes and menus that came up with the mouse held
   bool answer = false;                        // what `ask` returns
   std::vector<bool> defaults;                 // the default answers of the questions, in order
   std::vector<std::vector<MenuEntry>> menus;  // all that popped up, in order

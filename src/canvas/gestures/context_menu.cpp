@@ -67,7 +67,9 @@ void PressOnNothing(CanvasContext& context, const PointerEvent& event) {
 
 bool contextMenuPress(CanvasContext& context, const PointerEvent& event) {
   // A menu would take the mouse from a gesture that holds it.
-  if (isLeftGestureActive(context.state)) return true;
+  if (isGestureActive(context.state)) return true;
+  // A helix that hangs at the pointer may hold it still.
+  context.host.releaseMouse();
   const ViewTransform& view = context.state.view;
   const std::int32_t id = hitTestPieceOrHelix(context.layout, view, event.at);
   const std::int32_t shape = hitTestShape(context.layout, view, event.at);

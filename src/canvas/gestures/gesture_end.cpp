@@ -5,7 +5,12 @@ namespace vantrel {
 bool isLeftGestureActive(const CanvasState& state) {
   return state.shapeMove.active || state.measureMove.active || state.deckDrag.active ||
          state.sceneryResize.active || state.altRotate.active || state.selectionPending.active ||
-         state.labelDrag.active || state.rubberBand.active || state.selectionDrag.active;
+         state.labelDrag.active || state.rubberBand.active || state.selectionDrag.active ||
+         state.spacePan.active;
+}
+
+bool isGestureActive(const CanvasState& state) {
+  return isLeftGestureActive(state) || state.buttonPan.active;
 }
 
 }  // namespace vantrel

@@ -9,4 +9,7 @@ namespace vantrel {
 // Whether a gesture is under way that the left button's release will end.
 bool isLeftGestureActive(const CanvasState& state);
 
+// The same, or a pan with a button. What hangs at the pointer without a button doesn't count.
+bool isGestureActive(const CanvasState& state);
+
 }  // namespace vantrel

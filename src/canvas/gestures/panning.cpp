@@ -81,13 +81,10 @@ bool spacePanMotion(CanvasContext& context, const PointerEvent& event) {
   return true;
 }
 
-bool endPans(CanvasContext& context, const PointerEvent& event) {
-  bool ended = endButtonPan(context, event);
-  if (context.state.spacePan.active) {
-    StopSpacePan(context);
-    ended = true;
-  }
-  return ended;
+bool endSpacePan(CanvasContext& context, const PointerEvent&) {
+  if (!context.state.spacePan.active) return false;
+  StopSpacePan(context);
+  return true;
 }
 
 bool endButtonPan(CanvasContext& context, const PointerEvent&) {

@@ -20,7 +20,7 @@ bool buttonPanMotion(CanvasContext& context, const PointerEvent& event);
 bool spacePanMotion(CanvasContext& context, const PointerEvent& event);
 
 // A left release ends both, a middle release the button pan.
-bool endPans(CanvasContext& context, const PointerEvent& event);
+bool endSpacePan(CanvasContext& context, const PointerEvent& event);
 bool endButtonPan(CanvasContext& context, const PointerEvent& event);
 
 // The mouse was taken away: its release would go unseen.
