@@ -43,13 +43,16 @@ void MainFrame::showHistoryState() {
 }
 
 // Both mark the layout as changed even when the history was empty: what is shown may have been
-// saved, but the user has asked for another state.
+// saved, but the user has asked for another state. A drag under way ends first: going on beneath
+// it, it would overwrite the state that was brought back.
 void MainFrame::onUndo(wxCommandEvent&) {
+  canvas_->endGestures();
   Undo(layout_);
   showHistoryState();
 }
 
 void MainFrame::onRedo(wxCommandEvent&) {
+  canvas_->endGestures();
   Redo(layout_);
   showHistoryState();
 }
@@ -57,6 +60,7 @@ void MainFrame::onRedo(wxCommandEvent&) {
 // A simpler twin of the canvas's own Delete: it refuses helices selected as a whole, and leaves
 // partners of paired pieces alone.
 void MainFrame::onDelete(wxCommandEvent&) {
+  canvas_->endGestures();
   if (const std::optional<Notice> lock = selectionLock(layout_, "delete")) {
     Inform(this, lock->title, lock->text);
     return;
@@ -71,7 +75,9 @@ void MainFrame::onDelete(wxCommandEvent&) {
   markDirty();
 }
 
+// A drag under way ends first: it goes by the order of what is selected.
 void MainFrame::onSelectAll(wxCommandEvent&) {
+  canvas_->endGestures();
   for (Piece& piece : layout_.pieces) piece.sel = true;
   for (SceneryItem& item : layout_.scenery) item.sel = true;
   refreshViews();

@@ -79,6 +79,7 @@ bool MainFrame::ConfirmDiscard() {
 
 // layoutName stays: it is the default of the next save dialog.
 void MainFrame::newLayout() {
+  canvas_->endGestures();
   if (!ConfirmDiscard()) return;
   ClearContents(layout_);
   layout_.baseboard.clear();
@@ -131,6 +132,7 @@ bool MainFrame::confirmReplace(const std::string& name) {
 }
 
 void MainFrame::openLayout() {
+  canvas_->endGestures();
   if (!ConfirmDiscard()) return;
   std::vector<std::string> files = LayoutFiles(folders_.store);
   if (files.empty()) {

@@ -137,6 +137,50 @@ TEST_F(CommandHandlers, RedoMarksTheLayoutChangedEvenWithoutAHistory) {
   EXPECT_TRUE(frame().dirty());
 }
 
+// The view at scale 1 has its origin at pixel (60, 60).
+TEST_F(CommandHandlers, UndoInMidDragUndoesTheWholeDragAndNoMotionOverwritesIt) {
+  addPiece();
+  frame().Show();
+  frame().canvas().resetViewUnitScale();
+  dragOnCanvas({160, 60}, {160, 260});
+  EXPECT_EQ(plan().pieces[0].y, 200.0);
+  command(kCmdUndo);
+  EXPECT_EQ(plan().pieces[0].y, 0.0);
+  mouseOnCanvas(wxEVT_MOTION, {160, 360}, true);
+  mouseOnCanvas(wxEVT_LEFT_UP, {160, 360}, false);
+  EXPECT_EQ(plan().pieces[0].y, 0.0);
+  command(kCmdRedo);
+  EXPECT_EQ(plan().pieces[0].y, 200.0);
+  EXPECT_FALSE(frame().canvas().HasCapture());
+}
+
+TEST_F(CommandHandlers, SelectAllInMidDragLeavesEveryPieceInItsPlace) {
+  addPiece().y = 1000.0;
+  addPiece();
+  frame().Show();
+  frame().canvas().resetViewUnitScale();
+  dragOnCanvas({160, 60}, {160, 260});
+  command(kCmdSelectAll);
+  mouseOnCanvas(wxEVT_MOTION, {160, 360}, true);
+  EXPECT_EQ(plan().pieces[0].y, 1000.0);
+  EXPECT_EQ(plan().pieces[1].y, 200.0);
+  EXPECT_TRUE(plan().pieces[0].sel);
+  EXPECT_FALSE(frame().canvas().HasCapture());
+}
+
+TEST_F(CommandHandlers, DeleteInMidDragEndsItFirst) {
+  addPiece();
+  frame().Show();
+  frame().canvas().resetViewUnitScale();
+  dragOnCanvas({160, 60}, {160, 260});
+  command(kCmdDelete);
+  EXPECT_TRUE(plan().pieces.empty());
+  EXPECT_FALSE(frame().canvas().HasCapture());
+  command(kCmdUndo);
+  ASSERT_EQ(plan().pieces.size(), 1u);
+  EXPECT_EQ(plan().pieces[0].y, 200.0);
+}
+
 TEST_F(CommandHandlers, DeleteIsEnabledByASelectedPieceOrItemOnly) {
   addPiece();
   plan().scenery.emplace_back();

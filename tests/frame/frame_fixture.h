@@ -14,6 +14,7 @@
 #include <string>
 
 #include "app/services/prefs.h"
+#include "canvas/canvas_panel.h"
 #include "frame/commands.h"
 #include "frame/main_frame.h"
 #include "tests/support/modal_script.h"
@@ -64,6 +65,21 @@ class FrameTest : public testing::Test {
     event.SetEventObject(&frame());
     event.SetInt(checked ? 1 : 0);
     frame().ProcessWindowEvent(event);
+  }
+
+  // A left press on the canvas and a motion with the button down; no release. The frame must be
+  // shown: a window that isn't can't take the mouse.
+  void dragOnCanvas(wxPoint from, wxPoint to) {
+    mouseOnCanvas(wxEVT_LEFT_DOWN, from, true);
+    mouseOnCanvas(wxEVT_MOTION, to, true);
+  }
+  void mouseOnCanvas(wxEventType type, wxPoint at, bool left) {
+    CanvasPanel& canvas = frame().canvas();
+    wxMouseEvent event(type);
+    event.SetEventObject(&canvas);
+    event.SetPosition(at);
+    event.SetLeftDown(left);
+    canvas.HandleWindowEvent(event);
   }
 
   Piece& addPiece(const std::string& part = "24188") {

@@ -41,6 +41,22 @@ TEST_F(NewLayout, EmptiesTheDocumentButNotItsSettings) {
   EXPECT_EQ(statusText(kStatusPieces), "Pieces: 0");
 }
 
+TEST_F(NewLayout, InMidDragEndsTheDragSoThatTheEmptyLayoutStaysClean) {
+  // Pressed at (100, 0) under the first view: pixel (60 + 40, 60).
+  addPiece();
+  frame().Show();
+  dragOnCanvas({100, 60}, {100, 160});
+  EXPECT_TRUE(frame().canvas().state().selectionDrag.active);
+  ModalScript script;
+  script.dialog("Unsaved Changes", wxID_NO);
+  command(5002);
+  EXPECT_FALSE(frame().canvas().HasCapture());
+  EXPECT_TRUE(plan().pieces.empty());
+  mouseOnCanvas(wxEVT_MOTION, {100, 260}, true);
+  mouseOnCanvas(wxEVT_LEFT_UP, {100, 260}, false);
+  EXPECT_FALSE(frame().dirty());
+}
+
 TEST_F(NewLayout, CloseDoesTheSame) {
   fill();
   command(5001);
