@@ -36,6 +36,14 @@ if(VANTREL_WINDOWS)
   target_link_libraries(vantrel_wx INTERFACE ${wxWidgets_LIBRARIES})
 endif()
 
+# Only its tessellator, which needs neither a window nor a context: the windowless build has it too.
+find_path(VANTREL_GLU_INCLUDE_DIR GL/glu.h REQUIRED)
+find_library(VANTREL_GLU_LIBRARY GLU REQUIRED)
+mark_as_advanced(VANTREL_GLU_INCLUDE_DIR VANTREL_GLU_LIBRARY)
+add_library(vantrel_glu INTERFACE)
+target_include_directories(vantrel_glu SYSTEM INTERFACE ${VANTREL_GLU_INCLUDE_DIR})
+target_link_libraries(vantrel_glu INTERFACE ${VANTREL_GLU_LIBRARY})
+
 # vantrel_room(NAME FOLDER [LINKS...]): the static library vantrel_NAME of all sources directly in
 # src/FOLDER.
 function(vantrel_room name folder)

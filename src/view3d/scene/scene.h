@@ -50,7 +50,7 @@ struct Scene {
   std::vector<WireLine> wireLines;
   std::unordered_map<std::string, Model> sceneryModels;
   std::vector<SceneryInstance> sceneryInstances;
-  // Of the box around track, helices and scenery; only when there is any.
+  // Of the box around track, helices and scenery; only when there is track or scenery in it.
   bool framed = false;
   float centreX = 0.0F;
   float centreY = 0.0F;
