@@ -268,9 +268,16 @@ TEST_F(Tunnels, AJointThatNamesAMissingPieceLeadsOut) {
 
 TEST_F(Tunnels, AnOpenConnectorLeadsNowhereEvenWhenAPieceHasTheIdOfNone) {
   layRow(2);
-  layout.pieces[1].id = kNone;  // piece 1 now names a missing piece, and its own end is open
   for (Piece& piece : layout.pieces) piece.sel = true;
+  layout.pieces[1].id = kNone;  // piece 1 now names a missing piece
   EXPECT_FALSE(valid());
+  layout.pieces[1].id = 2;
+  layout.pieces[0].id = kNone;  // names piece 2, whose slots now are both as good as open
+  layout.pieces[1].joints.assign(2, Joint{});
+  const TunnelPlan plan = planTunnel(layout);
+  EXPECT_TRUE(plan.valid);
+  EXPECT_EQ(plan.connA, 0);
+  EXPECT_EQ(plan.connB, 0);
 }
 
 TEST_F(Tunnels, APortalThatIsGoneDoesNotKeepTheTunnelFromBeingRemoved) {
