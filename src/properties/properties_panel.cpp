@@ -50,6 +50,12 @@ bool StackIfNarrow(wxBoxSizer& row) {
   return true;
 }
 
+// The keys that undo and redo the plan. The toolkit offers them to a field before the menu.
+bool IsHistoryKey(const wxKeyEvent& event) {
+  const int key = event.GetKeyCode();
+  return event.GetModifiers() == wxMOD_CONTROL && (key == 'Z' || key == 'Y');
+}
+
 void* ClientData(std::int32_t id) {
   return reinterpret_cast<void*>(static_cast<std::intptr_t>(id));
 }
@@ -165,6 +171,12 @@ void PropertiesPanel::bindEvents() {
     event.Skip();
     CallAfter([this] { heightField_->SelectAll(); });
   });
+  heightField_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
+    keepHistoryKeys(*heightField_, ShownText(page_.height.text), event);
+  });
+  labelField_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
+    keepHistoryKeys(*labelField_, wxString(), event);
+  });
   const auto bind = [this](const auto& type, int id, void (PropertiesPanel::*handler)()) {
     Bind(
         type, [this, handler](wxCommandEvent&) { (this->*handler)(); }, id);
@@ -177,6 +189,16 @@ void PropertiesPanel::bindEvents() {
   bind(wxEVT_BUTTON, kRecalcId, &PropertiesPanel::recalcHere);
   bind(wxEVT_BUTTON, kAddLabelId, &PropertiesPanel::addLabel);
   bind(wxEVT_TEXT_ENTER, kLabelFieldId, &PropertiesPanel::addLabel);
+}
+
+// Whoever takes back what they are typing doesn't mean the plan: that would change out of sight.
+void PropertiesPanel::keepHistoryKeys(wxTextCtrl& field, const wxString& untouched,
+                                      wxKeyEvent& event) {
+  if (!IsHistoryKey(event) || field.GetValue() == untouched) {
+    event.Skip();
+    return;
+  }
+  if (event.GetKeyCode() == 'Z') field.ChangeValue(untouched);
 }
 
 void PropertiesPanel::enterHeight() {

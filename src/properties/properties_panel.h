@@ -78,6 +78,7 @@ class PropertiesPanel : public wxScrolled<wxPanel> {
   void showGrade(const GradeEntry& entry, bool keepTyped);
   void fitToWidth();
   void onSize(wxSizeEvent& event);
+  static void keepHistoryKeys(wxTextCtrl& field, const wxString& untouched, wxKeyEvent& event);
 
   void enterHeight();
   void chooseLevel();

@@ -8,6 +8,9 @@ namespace {
 // No line holds more letters, whatever the panel's width: what lies behind needn't be measured.
 constexpr std::size_t kLongestLine = 400;
 
+// A longer tooltip would fill the screen.
+constexpr std::size_t kLongestTip = 1000;
+
 const wxUniChar kEllipsis(0x2026);
 
 }  // namespace
@@ -19,10 +22,12 @@ bool WrappedLabel::wrapTo(int width) {
   const wxString broken = brokenText(width);
   if (broken == GetLabelText()) return false;
   SetLabelText(broken);
-  if (broken.Contains(kEllipsis))
+  if (!broken.EndsWith(kEllipsis))
+    UnsetToolTip();
+  else if (text_.length() <= kLongestTip)
     SetToolTip(text_);
   else
-    UnsetToolTip();
+    SetToolTip(text_.Left(kLongestTip) + kEllipsis);
   return true;
 }
 

@@ -125,6 +125,15 @@ class TypedIn : public PanelTest {
     ASSERT_TRUE(field.HasFocus());
   }
 
+  // Whether the field keeps Ctrl with this letter for itself.
+  bool takes(wxTextCtrl& field, char letter) {
+    wxKeyEvent event(wxEVT_KEY_DOWN);
+    event.SetEventObject(&field);
+    event.m_keyCode = letter;
+    event.SetControlDown(true);
+    return field.GetEventHandler()->ProcessEvent(event);
+  }
+
   std::int32_t id = -1;
 };
 
@@ -172,6 +181,36 @@ TEST_F(TypedIn, TheSameHeightEnteredAgainIsShownAsTheProgramWritesIt) {
   type(heightField(), "0");
   enter(heightField(), "0");
   EXPECT_EQ(heightField().GetValue(), "0.0");
+}
+
+TEST_F(TypedIn, CtrlZTakesBackWhatIsBeingTypedAndNotThePlan) {
+  type(heightField(), "12");
+  EXPECT_TRUE(takes(heightField(), 'Z'));
+  EXPECT_EQ(heightField().GetValue(), "0.0");
+  type(labelField(), "North");
+  EXPECT_TRUE(takes(labelField(), 'Y'));
+  EXPECT_EQ(labelField().GetValue(), "North");
+  EXPECT_TRUE(takes(labelField(), 'Z'));
+  EXPECT_EQ(labelField().GetValue(), "");
+}
+
+TEST_F(TypedIn, CtrlZBelongsToThePlanWhereNothingIsBeingTyped) {
+  for (wxTextCtrl* field : {&heightField(), &labelField()}) {
+    field->SetFocus();
+    settle();
+    EXPECT_FALSE(takes(*field, 'Z'));
+    EXPECT_FALSE(takes(*field, 'Y'));
+  }
+  type(heightField(), "12");
+  EXPECT_FALSE(takes(heightField(), 'C'));
+}
+
+TEST_F(TypedIn, AHeightIsReadyToBeReplacedWhenItsFieldIsEnteredAndAfterReturn) {
+  heightField().SetFocus();
+  settle();
+  EXPECT_EQ(heightField().GetStringSelection(), "0.0");
+  enter(heightField(), "12");
+  EXPECT_EQ(heightField().GetStringSelection(), "12.0");
 }
 
 TEST_F(TypedIn, ALabelStaysWhateverIsSelected) {

@@ -102,6 +102,7 @@ TEST_F(WrappedLabelTest, ATextOfAMillionLettersIsShortenedAtOnce) {
   WrappedLabel& label = make(wxString('m', 1000000), 4);
   label.wrapTo(250);
   EXPECT_LT(label.GetLabelText().length(), 500u);
+  EXPECT_EQ(label.GetToolTipText().length(), 1001u);
 }
 
 }  // namespace
