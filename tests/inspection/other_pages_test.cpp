@@ -145,8 +145,7 @@ TEST(PolygonPage, VerticesAtTheEndOfTheWorldStillGiveAText) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const double infinity = std::numeric_limits<double>::infinity();
   DrawShape(layout, {{-infinity, nan}, {infinity, 5}, {nan, 0}});
-  EXPECT_EQ(DescribeSelection(layout).info,
-            "Polygon  |  3 verts  |  inf x 5 mm  |  height 0 mm");
+  EXPECT_EQ(DescribeSelection(layout).info, "Polygon  |  3 verts  |  inf x 5 mm  |  height 0 mm");
 }
 
 class RunPage : public testing::Test {
@@ -192,10 +191,16 @@ TEST_F(RunPage, ARingOfStraightsBeginsAtTheFirstSelectedPiece) {
   EXPECT_EQ(page().title, "24188 + 24229 + 24172");  // slot 0 leads back to the last one
 }
 
-TEST_F(RunPage, TwoPiecesJoinedAtBothEndsAreEachOthersOnlyNeighbour) {
-  lay({"24188", "24172"});
-  Join(layout, layout.pieces[1].id, 1, layout.pieces[0].id, 0);
-  EXPECT_EQ(page().title, "24188 + 24172");
+TEST_F(RunPage, APieceJoinedTwiceToItsOnlyNeighbourIsAnEnd) {
+  // As only a file can say: the first piece lies between the others, twice joined to the second.
+  const std::int32_t middle = LaySelected(layout, "24188");
+  const std::int32_t twice = LaySelected(layout, "24172");
+  const std::int32_t once = LaySelected(layout, "24229");
+  PieceOf(layout, middle).joints = {
+      {.target = twice, .tconn = 0}, {.target = twice, .tconn = 1}, {.target = once, .tconn = 0}};
+  PieceOf(layout, twice).joints = {{.target = middle, .tconn = 0}, {.target = middle, .tconn = 1}};
+  PieceOf(layout, once).joints = {{.target = middle, .tconn = 2}, {}};
+  EXPECT_EQ(page().title, "24172 + 24188 + 24229");
 }
 
 TEST_F(RunPage, NeitherHeightNorGradeCanBeSet) {
