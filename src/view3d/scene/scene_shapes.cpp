@@ -42,42 +42,51 @@ std::unordered_map<std::int32_t, Points> CoveredPoints(const Layout& layout) {
   return byLevel;
 }
 
-// The points with y in [low, high), of a list by y.
-std::pair<std::size_t, std::size_t> Between(const Points& points, double low, double high) {
-  const auto first = std::ranges::lower_bound(points, low, {}, &Vec2::y);
-  const auto last = std::ranges::lower_bound(first, points.end(), high, {}, &Vec2::y);
-  return {static_cast<std::size_t>(first - points.begin()),
-          static_cast<std::size_t>(last - points.begin())};
+double YOf(Vec2 point) {
+  return point.y;
 }
 
-// Those of `points`, by y, that lie in the box around the outline.
-Points PointsAround(const Points& points, const Points& outline) {
+// A covered piece's place near an outline, and whether the edges looked at so far hold it.
+struct Candidate {
+  Vec2 at;
+  bool isInside = false;
+};
+
+double YOf(const Candidate& candidate) {
+  return candidate.at.y;
+}
+
+// The first of a list by y that doesn't lie below `y`.
+template <typename List>
+auto FirstFrom(List& list, double y) {
+  return std::ranges::lower_bound(list, y, {}, [](const auto& entry) { return YOf(entry); });
+}
+
+// Those of `points`, by y, that lie in the box around the outline, by y too.
+std::vector<Candidate> PointsAround(const Points& points, const Points& outline) {
   const auto [left, right] = std::ranges::minmax(outline, {}, &Vec2::x);
   const auto [low, high] = std::ranges::minmax(outline, {}, &Vec2::y);
-  const auto [first, last] = Between(points, low.y, high.y);
-  Points around;
-  for (std::size_t i = first; i < last; ++i)
-    if (points[i].x >= left.x && points[i].x <= right.x) around.push_back(points[i]);
+  std::vector<Candidate> around;
+  const auto end = FirstFrom(points, high.y);
+  for (auto point = FirstFrom(points, low.y); point != end; ++point)
+    if (point->x >= left.x && point->x <= right.x) around.push_back({*point});
   return around;
 }
 
 // By the even-odd rule, all points at once: an edge only looks at the points on its height, so that
 // many points in an outline of many short edges cost little.
 bool HoldsAny(const Points& outline, const Points& points) {
-  const Points around = PointsAround(points, outline);
-  if (around.empty()) return false;
-  std::vector<char> inside(around.size(), 0);
-  for (std::size_t i = 0; i < outline.size(); ++i) {
+  std::vector<Candidate> around = PointsAround(points, outline);
+  for (std::size_t i = 0; i < outline.size() && !around.empty(); ++i) {
     const Vec2 a = outline[i];
     const Vec2 b = outline[(i + 1) % outline.size()];
-    if (a.y == b.y) continue;
-    const auto [first, last] = Between(around, std::min(a.y, b.y), std::max(a.y, b.y));
-    for (std::size_t j = first; j < last; ++j) {
-      const Vec2 point = around[j];
-      if (point.x < a.x + (b.x - a.x) * (point.y - a.y) / (b.y - a.y)) inside[j] ^= 1;
+    const auto end = FirstFrom(around, std::max(a.y, b.y));
+    for (auto point = FirstFrom(around, std::min(a.y, b.y)); point != end; ++point) {
+      if (point->at.x < a.x + (b.x - a.x) * (point->at.y - a.y) / (b.y - a.y))
+        point->isInside = !point->isInside;
     }
   }
-  return std::ranges::find(inside, 1) != inside.end();
+  return std::ranges::any_of(around, &Candidate::isInside);
 }
 
 // Twice the outline's area; positive when it runs counter-clockwise in a frame with y up.
