@@ -34,6 +34,13 @@ if(VANTREL_WINDOWS)
   target_compile_definitions(vantrel_wx INTERFACE ${wxWidgets_DEFINITIONS})
   target_compile_options(vantrel_wx INTERFACE ${wxWidgets_CXX_FLAGS})
   target_link_libraries(vantrel_wx INTERFACE ${wxWidgets_LIBRARIES})
+
+  # Apart from the rest of the toolkit: only the 3D view draws with OpenGL.
+  find_package(wxWidgets 3.2 REQUIRED COMPONENTS gl core base)
+  find_package(OpenGL REQUIRED COMPONENTS OpenGL)
+  add_library(vantrel_wxgl INTERFACE)
+  target_link_libraries(vantrel_wxgl INTERFACE ${wxWidgets_LIBRARIES} vantrel_wx OpenGL::GLU
+    OpenGL::GL)
 endif()
 
 # Only its tessellator, which needs neither a window nor a context: the windowless build has it too.

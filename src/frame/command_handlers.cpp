@@ -19,6 +19,7 @@
 #include "frame/experience_dialog.h"
 #include "frame/main_frame.h"
 #include "frame/message_boxes.h"
+#include "view3d/view3d_frame.h"
 #include "workspace/status_text.h"
 
 namespace vantrel {
@@ -149,6 +150,19 @@ void MainFrame::onValidate(wxCommandEvent&) {
 
 void MainFrame::onLayoutProperties(wxCommandEvent&) {
   Inform(this, "Properties", "Layout properties not yet implemented.");
+}
+
+void MainFrame::on3DView(wxCommandEvent&) {
+  if (view3D_) {
+    rebuildView3D();
+    view3D_->Raise();
+    return;
+  }
+  view3D_ = new View3DFrame(this, layout_);
+  view3D_->Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
+    view3D_ = nullptr;
+    event.Skip();
+  });
 }
 
 void MainFrame::onOptions(wxCommandEvent&) {

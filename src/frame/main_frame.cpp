@@ -16,6 +16,7 @@
 #include "frame/store_folder.h"
 #include "frame/text.h"
 #include "properties/properties_panel.h"
+#include "view3d/view3d_frame.h"
 #include "workspace/status_text.h"
 
 namespace vantrel {
@@ -57,7 +58,9 @@ MainFrame::MainFrame(const ProgramFolders& folders)
 }
 
 MainFrame::~MainFrame() {
-  // The panels hold this frame as their workspace: they go while it still is one.
+  // The 3D window looks at the document, and the panels hold this frame as their workspace: they go
+  // while it still is one.
+  delete view3D_;
   if (root_) root_->Destroy();
 }
 
@@ -93,6 +96,7 @@ void MainFrame::markDirty() {
   dirty_ = true;
   UpdateTitle();
   properties_->RefreshTally();
+  rebuildView3D();
 }
 
 void MainFrame::selectionChanged() {
@@ -101,6 +105,11 @@ void MainFrame::selectionChanged() {
 
 void MainFrame::refreshViews() {
   canvas_->Refresh();
+  rebuildView3D();
+}
+
+void MainFrame::rebuildView3D() {
+  if (view3D_) view3D_->Rebuild(layout_);
 }
 
 void MainFrame::noteCanvasClick(Vec2 world) {
@@ -174,6 +183,7 @@ wxBEGIN_EVENT_TABLE(MainFrame, wxFrame)
   EVT_MENU(kCmdPolygon, MainFrame::onTool)
   EVT_MENU(kCmdValidate, MainFrame::onValidate)
   EVT_MENU(kCmdLayoutProperties, MainFrame::onLayoutProperties)
+  EVT_MENU(kCmd3DView, MainFrame::on3DView)
   EVT_MENU(kCmdOptions, MainFrame::onOptions)
   EVT_UPDATE_UI(kCmdUndo, MainFrame::onUpdateUi)
   EVT_UPDATE_UI(kCmdRedo, MainFrame::onUpdateUi)

@@ -16,6 +16,7 @@ namespace vantrel {
 class CanvasPanel;
 class PalettePanel;
 class PropertiesPanel;
+class View3DFrame;
 
 class MainFrame : public wxFrame, public Workspace {
  public:
@@ -38,6 +39,8 @@ class MainFrame : public wxFrame, public Workspace {
   PalettePanel& palette() { return *palette_; }
   CanvasPanel& canvas() { return *canvas_; }
   PropertiesPanel& properties() { return *properties_; }
+  // The open 3D window, null when there is none.
+  View3DFrame* view3D() { return view3D_; }
 
   const ProgramFolders& folders() const { return folders_; }
   const std::string& currentPath() const { return currentPath_; }
@@ -83,6 +86,7 @@ class MainFrame : public wxFrame, public Workspace {
   void askExperienceIfDue();
   void switchTool(int id, bool on);
   void showHistoryState();
+  void rebuildView3D();
 
   void onNew(wxCommandEvent& event);
   void onOpen(wxCommandEvent& event);
@@ -107,6 +111,7 @@ class MainFrame : public wxFrame, public Workspace {
   void onTool(wxCommandEvent& event);
   void onValidate(wxCommandEvent& event);
   void onLayoutProperties(wxCommandEvent& event);
+  void on3DView(wxCommandEvent& event);
   void onOptions(wxCommandEvent& event);
   void onUpdateUi(wxUpdateUIEvent& event);
   void onUpdateTunnel(wxUpdateUIEvent& event);
@@ -118,6 +123,7 @@ class MainFrame : public wxFrame, public Workspace {
   PalettePanel* palette_ = nullptr;
   CanvasPanel* canvas_ = nullptr;
   PropertiesPanel* properties_ = nullptr;
+  View3DFrame* view3D_ = nullptr;
   std::string currentPath_;  // empty for a layout never saved
   std::string layoutName_;   // as the file holds it: a loaded name may carry entities
   bool dirty_ = false;

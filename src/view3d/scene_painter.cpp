@@ -1,0 +1,226 @@
+#include "view3d/scene_painter.h"
+
+#include <string>
+#include <unordered_map>
+
+#include "view3d/gl_headers.h"
+
+namespace vantrel {
+namespace {
+
+constexpr double kFieldOfViewDegrees = 40.0;
+constexpr double kNearMm = 1.0;
+constexpr double kFarMm = 60000.0;
+
+constexpr int kGridReachMm = 3500;
+constexpr int kGridStepMm = 100;
+constexpr float kGridHeightMm = -0.5F;
+constexpr float kAxesHeightMm = -0.3F;
+
+constexpr float kSceneryHeightMm = -1.0F;
+constexpr float kArchBridgeHeightMm = -18.0F;
+constexpr float kTrussBridgeHeightMm = -4.0F;
+
+// Around the lines drawn inside: without light and this wide.
+class PlainLines {
+ public:
+  explicit PlainLines(float width) {
+    glDisable(GL_LIGHTING);
+    glLineWidth(width);
+  }
+  ~PlainLines() {
+    glLineWidth(1.0F);
+    glEnable(GL_LIGHTING);
+  }
+  PlainLines(const PlainLines&) = delete;
+  PlainLines& operator=(const PlainLines&) = delete;
+};
+
+// The arrays that are switched on stay so for the whole frame; a model that comes again right after
+// itself need not be pointed at again.
+class MeshDrawing {
+ public:
+  MeshDrawing() {
+    glEnableClientState(GL_VERTEX_ARRAY);
+    glEnableClientState(GL_NORMAL_ARRAY);
+    glEnableClientState(GL_COLOR_ARRAY);
+  }
+  ~MeshDrawing() {
+    glDisableClientState(GL_COLOR_ARRAY);
+    glDisableClientState(GL_NORMAL_ARRAY);
+    glDisableClientState(GL_VERTEX_ARRAY);
+  }
+  MeshDrawing(const MeshDrawing&) = delete;
+  MeshDrawing& operator=(const MeshDrawing&) = delete;
+
+  void draw(const Mesh& mesh) {
+    if (mesh.empty()) return;
+    if (&mesh != pointedAt_) {
+      glVertexPointer(3, GL_FLOAT, sizeof(Vec3f), mesh.positions.data());
+      glNormalPointer(GL_FLOAT, sizeof(Vec3f), mesh.normals.data());
+      glColorPointer(3, GL_FLOAT, sizeof(Rgb), mesh.colors.data());
+      pointedAt_ = &mesh;
+    }
+    glDrawElements(GL_TRIANGLES, static_cast<GLsizei>(mesh.indices.size()), GL_UNSIGNED_INT,
+                   mesh.indices.data());
+  }
+
+ private:
+  const Mesh* pointedAt_ = nullptr;
+};
+
+const Model* ModelFor(const std::unordered_map<std::string, Model>& models,
+                      const std::string& key) {
+  const auto found = models.find(key);
+  return found == models.end() || found->second.empty() ? nullptr : &found->second;
+}
+
+void Look(const Camera& camera, PaintSize size) {
+  glViewport(0, 0, size.width, size.height);
+  glMatrixMode(GL_PROJECTION);
+  glLoadIdentity();
+  gluPerspective(kFieldOfViewDegrees, static_cast<double>(size.width) / size.height, kNearMm,
+                 kFarMm);
+  glMatrixMode(GL_MODELVIEW);
+  glLoadIdentity();
+  gluLookAt(0.0, 0.0, camera.distance, 0.0, 0.0, 0.0, 0.0, 1.0, 0.0);
+  // The far side of the table turns away from the eye, so what stands on it points up.
+  glRotatef(-camera.pitch, 1.0F, 0.0F, 0.0F);
+  glRotatef(camera.yaw, 0.0F, 0.0F, 1.0F);
+  glTranslatef(camera.panX - camera.centreX, camera.panY - camera.centreY, 0.0F);
+}
+
+void DrawFloorGrid() {
+  const PlainLines lines(1.0F);
+  glColor3f(0.22F, 0.24F, 0.22F);
+  glBegin(GL_LINES);
+  constexpr auto reach = static_cast<float>(kGridReachMm);
+  for (int step = -kGridReachMm; step <= kGridReachMm; step += kGridStepMm) {
+    const auto at = static_cast<float>(step);
+    glVertex3f(at, -reach, kGridHeightMm);
+    glVertex3f(at, reach, kGridHeightMm);
+    glVertex3f(-reach, at, kGridHeightMm);
+    glVertex3f(reach, at, kGridHeightMm);
+  }
+  glEnd();
+}
+
+void DrawAxes() {
+  const PlainLines lines(2.0F);
+  constexpr auto reach = static_cast<float>(kGridReachMm);
+  glBegin(GL_LINES);
+  glColor3f(0.45F, 0.18F, 0.18F);
+  glVertex3f(0.0F, -reach, kAxesHeightMm);
+  glVertex3f(0.0F, reach, kAxesHeightMm);
+  glColor3f(0.18F, 0.45F, 0.18F);
+  glVertex3f(-reach, 0.0F, kAxesHeightMm);
+  glVertex3f(reach, 0.0F, kAxesHeightMm);
+  glEnd();
+}
+
+// The bridges of the scenery reach below the table's edge with their abutments.
+float SceneryHeight(const std::string& id) {
+  if (id == "bridge_arch") return kArchBridgeHeightMm;
+  if (id == "bridge_truss") return kTrussBridgeHeightMm;
+  return kSceneryHeightMm;
+}
+
+void DrawScenery(MeshDrawing& meshes, const Scene& scene) {
+  for (const SceneryInstance& item : scene.sceneryInstances) {
+    const Model* model = ModelFor(scene.sceneryModels, item.key);
+    if (!model) continue;
+    glPushMatrix();
+    glTranslatef(item.x, item.y, item.z + SceneryHeight(item.key));
+    glRotatef(item.heading, 0.0F, 0.0F, 1.0F);
+    if (item.scaleX != 1.0F || item.scaleY != 1.0F) glScalef(item.scaleX, item.scaleY, 1.0F);
+    meshes.draw(*model);
+    glPopMatrix();
+  }
+}
+
+void DrawWires(const std::vector<WireLine>& wires) {
+  if (wires.empty()) return;
+  const PlainLines lines(2.0F);
+  glBegin(GL_LINES);
+  for (const WireLine& wire : wires) {
+    glColor3f(wire.colour.r, wire.colour.g, wire.colour.b);
+    glVertex3f(wire.from.x, wire.from.y, wire.from.z);
+    glVertex3f(wire.to.x, wire.to.y, wire.to.z);
+  }
+  glEnd();
+}
+
+void DrawTrack(MeshDrawing& meshes, const Scene& scene) {
+  for (const TrackInstance& piece : scene.trackInstances) {
+    const Model* model = ModelFor(scene.trackModels, piece.key);
+    if (!model) continue;
+    glPushMatrix();
+    glTranslatef(piece.x, piece.y, piece.z);
+    glRotatef(piece.heading, 0.0F, 0.0F, 1.0F);
+    glRotatef(piece.rev ? piece.grade : -piece.grade, 0.0F, 1.0F, 0.0F);
+    // Models are made in the canvas's frame, in which y points the other way.
+    glScalef(1.0F, -1.0F, 1.0F);
+    meshes.draw(*model);
+    glPopMatrix();
+  }
+}
+
+}  // namespace
+
+bool SetUpPainting() {
+  while (glGetError() != GL_NO_ERROR) {
+  }
+  glEnable(GL_DEPTH_TEST);
+  glDepthFunc(GL_LEQUAL);
+  glEnable(GL_LIGHTING);
+  glEnable(GL_LIGHT0);
+  glEnable(GL_LIGHT1);
+  glColorMaterial(GL_FRONT_AND_BACK, GL_AMBIENT_AND_DIFFUSE);
+  glEnable(GL_COLOR_MATERIAL);
+  glShadeModel(GL_SMOOTH);
+  glEnable(GL_NORMALIZE);
+
+  // Placed before the camera is: the lights go along with the eye.
+  constexpr float ambient0[] = {0.22F, 0.22F, 0.2F, 1.0F};
+  constexpr float diffuse0[] = {0.92F, 0.9F, 0.84F, 1.0F};
+  constexpr float position0[] = {700.0F, 500.0F, 1000.0F, 1.0F};
+  constexpr float ambient1[] = {0.04F, 0.04F, 0.07F, 1.0F};
+  constexpr float diffuse1[] = {0.22F, 0.26F, 0.34F, 1.0F};
+  constexpr float position1[] = {-500.0F, -700.0F, 250.0F, 1.0F};
+  constexpr float specular[] = {0.35F, 0.35F, 0.38F, 1.0F};
+  constexpr float shininess = 20.0F;
+  glLightfv(GL_LIGHT0, GL_AMBIENT, ambient0);
+  glLightfv(GL_LIGHT0, GL_DIFFUSE, diffuse0);
+  glLightfv(GL_LIGHT0, GL_SPECULAR, specular);
+  glLightfv(GL_LIGHT0, GL_POSITION, position0);
+  glLightfv(GL_LIGHT1, GL_AMBIENT, ambient1);
+  glLightfv(GL_LIGHT1, GL_DIFFUSE, diffuse1);
+  glLightfv(GL_LIGHT1, GL_POSITION, position1);
+  glMaterialfv(GL_FRONT_AND_BACK, GL_SPECULAR, specular);
+  glMaterialf(GL_FRONT_AND_BACK, GL_SHININESS, shininess);
+  glClearColor(0.14F, 0.16F, 0.19F, 1.0F);
+  return glGetError() == GL_NO_ERROR;
+}
+
+void PaintScene(const Scene& scene, const Camera& camera, PaintSize size) {
+  if (size.width >= 1 && size.height >= 1) Look(camera, size);
+  glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+  DrawFloorGrid();
+  DrawAxes();
+
+  MeshDrawing meshes;
+  meshes.draw(scene.baseMesh);
+  DrawScenery(meshes, scene);
+  glPushMatrix();
+  meshes.draw(scene.sceneMesh);
+  glPopMatrix();
+  DrawWires(scene.wireLines);
+  // Track on a board or a deck of the same height lies visibly above it.
+  glEnable(GL_POLYGON_OFFSET_FILL);
+  glPolygonOffset(-1.0F, -1.0F);
+  DrawTrack(meshes, scene);
+  glDisable(GL_POLYGON_OFFSET_FILL);
+  meshes.draw(scene.tunnelMesh);
+}
+
+}  // namespace vantrel

@@ -1,0 +1,58 @@
+// The window that shows a layout's scene and turns mouse and keys into camera moves.
+#pragma once
+
+#include <wx/glcanvas.h>
+
+#include <memory>
+
+#include "doc/layout.h"
+#include "view3d/scene/camera.h"
+#include "view3d/scene/scene.h"
+
+namespace vantrel {
+
+class TrackGLCanvas : public wxGLCanvas {
+ public:
+  // False where the display has no OpenGL to offer: no canvas may be made then.
+  static bool IsSupported();
+
+  // The scene is built at once, from the layout as it is now.
+  TrackGLCanvas(wxWindow* parent, const vantrel::Layout& layout);
+  ~TrackGLCanvas() override;
+  TrackGLCanvas(const TrackGLCanvas&) = delete;
+  TrackGLCanvas& operator=(const TrackGLCanvas&) = delete;
+
+  // A context came with the canvas. Without one it stays blank.
+  bool hasContext() const;
+
+  // The layout changed. The scene is built anew before the next paint, however many changes have
+  // come until then, and the layout must live until then.
+  void Rebuild(const vantrel::Layout& layout);
+
+  const Scene& scene() const { return scene_; }
+  const Camera& camera() const { return camera_; }
+  // A change came after the scene was built.
+  bool isStale() const { return changed_ != nullptr; }
+
+ private:
+  void makeContext();
+  void bindEvents();
+  void build(const vantrel::Layout& layout);
+  void onPaint();
+  void onPress(wxMouseEvent& event);
+  void onMotion(wxMouseEvent& event);
+  void onRelease();
+  void onWheel(wxMouseEvent& event);
+  void onKey(wxKeyEvent& event);
+
+  std::unique_ptr<wxGLContext> context_;
+  bool glReady_ = false;
+  Scene scene_;
+  Camera camera_;
+  const vantrel::Layout* changed_ = nullptr;  // what the next paint builds from
+  wxPoint lastMouse_;
+  bool leftDown_ = false;
+  bool rightDown_ = false;
+};
+
+}  // namespace vantrel
