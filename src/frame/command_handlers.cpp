@@ -81,7 +81,7 @@ void MainFrame::onSelectAll(wxCommandEvent&) {
   canvas_->endGestures();
   for (Piece& piece : layout_.pieces) piece.sel = true;
   for (SceneryItem& item : layout_.scenery) item.sel = true;
-  refreshViews();
+  canvas_->Refresh();
   selectionChanged();
 }
 
@@ -117,7 +117,7 @@ void MainFrame::onHideLabels(wxCommandEvent& event) {
       ->FindById(kCmdHideLabels)
       ->SetLabel(layout_.labelsVisible ? "Hide Labels" : "Show Labels");
   GetToolBar()->Realize();
-  refreshViews();
+  canvas_->Refresh();
 }
 
 void MainFrame::onTunnel(wxCommandEvent&) {

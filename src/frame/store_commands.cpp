@@ -90,6 +90,7 @@ void MainFrame::newLayout() {
   currentPath_.clear();
   dirty_ = false;
   SetTitle(kProgramTitle);
+  refreshViews();
   canvas_->resetView();
   properties_->RefreshSelection();
   setStatus(kStatusMessage, ReadyText(layout_));

@@ -150,7 +150,7 @@ void TrackGLCanvas::onWheel(wxMouseEvent& event) {
 
 void TrackGLCanvas::onKey(wxKeyEvent& event) {
   const int code = event.GetKeyCode();
-  if ((code != 'R' && code != 'r') || event.HasAnyModifiers()) {
+  if ((code != 'R' && code != 'r') || event.HasModifiers()) {
     event.Skip();
     return;
   }

@@ -1,0 +1,192 @@
+#include <wx/toplevel.h>
+
+#include <algorithm>
+
+#include "canvas/canvas_panel.h"
+#include "doc/undo.h"
+#include "tests/frame/frame_fixture.h"
+#include "view3d/track_gl_canvas.h"
+#include "view3d/view3d_frame.h"
+
+namespace vantrel {
+namespace {
+
+int OpenViews() {
+  int count = 0;
+  for (const wxWindow* window : wxTopLevelWindows)
+    if (dynamic_cast<const View3DFrame*>(window)) ++count;
+  return count;
+}
+
+class View3D : public FrameTest {
+ protected:
+  ~View3D() override {
+    // Painting and deferred deletion need a few turns of the event loop.
+    pump();
+  }
+
+  void pump() {
+    for (int i = 0; i < 20; ++i) {
+      wxTheApp->Yield();
+      wxMilliSleep(5);
+    }
+  }
+
+  View3DFrame& open() {
+    if (!frame().view3D()) command(2000);
+    return *frame().view3D();
+  }
+  TrackGLCanvas& canvas() { return *open().canvas(); }
+  // As the next paint would show it.
+  std::size_t piecesShown() {
+    for (int i = 0; i < 200 && canvas().isStale(); ++i) {
+      wxTheApp->Yield();
+      wxMilliSleep(5);
+    }
+    EXPECT_FALSE(canvas().isStale()) << "no paint came";
+    return canvas().scene().trackInstances.size();
+  }
+};
+
+TEST_F(View3D, TheCommandOpensTheWindowOnTheDocument) {
+  EXPECT_EQ(frame().view3D(), nullptr);
+  addPiece();
+  command(2000);
+  ASSERT_NE(frame().view3D(), nullptr);
+  EXPECT_TRUE(frame().view3D()->IsShown());
+  EXPECT_EQ(frame().view3D()->GetParent(), &frame());
+  EXPECT_EQ(canvas().scene().trackInstances.size(), 1u);
+}
+
+TEST_F(View3D, TheCommandRebuildsAnOpenWindowAndOpensNoSecond) {
+  View3DFrame& first = open();
+  addPiece();
+  command(2000);
+  EXPECT_EQ(frame().view3D(), &first);
+  EXPECT_EQ(OpenViews(), 1);
+  EXPECT_EQ(piecesShown(), 1u);
+}
+
+TEST_F(View3D, ClosingItIsForgottenAndItOpensAgain) {
+  open();
+  EXPECT_TRUE(frame().view3D()->Close());
+  EXPECT_EQ(frame().view3D(), nullptr);
+  frame().markDirty();
+  frame().refreshViews();
+  pump();
+  EXPECT_EQ(OpenViews(), 0);
+  addPiece();
+  command(2000);
+  ASSERT_NE(frame().view3D(), nullptr);
+  EXPECT_EQ(OpenViews(), 1);
+  EXPECT_EQ(piecesShown(), 1u);
+}
+
+TEST_F(View3D, OpensAndClosesManyTimes) {
+  addPiece();
+  for (int i = 0; i < 10; ++i) {
+    command(2000);
+    ASSERT_NE(frame().view3D(), nullptr);
+    if (i % 2 == 0) pump();
+    frame().view3D()->Close();
+  }
+  pump();
+  EXPECT_EQ(OpenViews(), 0);
+}
+
+TEST_F(View3D, FollowsEveryChangeOfTheDocument) {
+  open();
+  TakeSnapshot(plan());
+  addPiece();
+  frame().markDirty();
+  EXPECT_EQ(piecesShown(), 1u);
+  command(2002);
+  EXPECT_EQ(piecesShown(), 0u) << "Undo";
+  command(2003);
+  EXPECT_EQ(piecesShown(), 1u) << "Redo";
+  plan().pieces[0].sel = true;
+  command(2004);
+  EXPECT_EQ(piecesShown(), 0u) << "Delete";
+  addPiece();
+  frame().refreshViews();
+  EXPECT_EQ(piecesShown(), 1u) << "refreshViews";
+}
+
+TEST_F(View3D, FollowsNewAndOpen) {
+  addPiece();
+  addPiece();
+  open();
+  EXPECT_EQ(piecesShown(), 2u);
+  command(5002);
+  EXPECT_EQ(piecesShown(), 0u) << "New";
+  WriteFileText(inStore("One.vtl"), LayoutText("One"));
+  frame().LoadIntoFrame(inStore("One.vtl"));
+  EXPECT_EQ(piecesShown(), 1u) << "Open";
+}
+
+TEST_F(View3D, FollowsAPlacementOnTheCanvas) {
+  open();
+  frame().canvas().placeByDoubleClick("24188");
+  plan().pieces.clear();
+  frame().placeHelix("helix", {});
+  addPiece();
+  frame().markDirty();
+  EXPECT_EQ(piecesShown(), plan().pieces.size());
+}
+
+TEST_F(View3D, ABurstOfChangesIsOneRebuild) {
+  open();
+  pump();
+  for (int i = 0; i < 5; ++i) {
+    addPiece();
+    frame().markDirty();
+    frame().refreshViews();
+    EXPECT_TRUE(canvas().scene().trackInstances.empty());
+  }
+  EXPECT_EQ(piecesShown(), 5u);
+}
+
+TEST_F(View3D, WhatOnlyTheCanvasShowsKeepsTheZoomOfTheView) {
+  addPiece();
+  open();
+  pump();
+  for (const int id : {2005, 2006, 2007, 2008, 2009, 2010, 2011, 2017}) command(id, true);
+  EXPECT_FALSE(canvas().isStale());
+}
+
+TEST_F(View3D, GoesWithTheMainWindow) {
+  addPiece();
+  open();
+  pump();
+  delete frame_;
+  frame_ = nullptr;
+  pump();
+  EXPECT_EQ(OpenViews(), 0);
+}
+
+TEST_F(View3D, GoesWithTheMainWindowThatTheUserCloses) {
+  addPiece();
+  open();
+  frame_->Show();
+  frame().markDirty();
+  ModalScript script;
+  script.box("Unsaved Changes", "You have unsaved changes. Save before continuing?", kUnsavedBox,
+             wxID_NO);
+  frame_->Close();
+  frame_ = nullptr;
+  pump();
+  EXPECT_EQ(OpenViews(), 0);
+}
+
+TEST_F(View3D, AMainWindowThatGoesRightAfterItsViewLeavesNothing) {
+  open();
+  frame().markDirty();
+  frame().view3D()->Close();
+  delete frame_;
+  frame_ = nullptr;
+  pump();
+  EXPECT_EQ(OpenViews(), 0);
+}
+
+}  // namespace
+}  // namespace vantrel
