@@ -96,7 +96,7 @@ TEST_F(View3D, OpensAndClosesManyTimes) {
 
 TEST_F(View3D, FollowsEveryChangeOfTheDocument) {
   open();
-  TakeSnapshot(plan());
+  PushUndo(plan());
   addPiece();
   frame().markDirty();
   EXPECT_EQ(piecesShown(), 1u);
@@ -126,12 +126,10 @@ TEST_F(View3D, FollowsNewAndOpen) {
 
 TEST_F(View3D, FollowsAPlacementOnTheCanvas) {
   open();
-  frame().canvas().placeByDoubleClick("24188");
-  plan().pieces.clear();
+  EXPECT_EQ(piecesShown(), 0u);
   frame().placeHelix("helix", {});
-  addPiece();
-  frame().markDirty();
-  EXPECT_EQ(piecesShown(), plan().pieces.size());
+  ASSERT_FALSE(plan().helices.empty());
+  EXPECT_GT(piecesShown(), 0u);
 }
 
 TEST_F(View3D, ABurstOfChangesIsOneRebuild) {

@@ -3,10 +3,6 @@
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
-#include <wx/bitmap.h>
-#include <wx/dcmemory.h>
-#include <wx/dcscreen.h>
-#include <wx/image.h>
 #include <wx/utils.h>
 
 #include <functional>
@@ -14,8 +10,10 @@
 #include <memory>
 #include <string>
 #include <tuple>
+#include <vector>
 
 #include "doc/layout.h"
+#include "tests/view3d/screen_pixels.h"
 #include "view3d/track_gl_canvas.h"
 #include "view3d/view3d_frame.h"
 
@@ -43,16 +41,10 @@ using Colour = std::tuple<int, int, int>;
 // As the screen shows it, by colour.
 inline std::map<Colour, int> ColoursOf(const wxWindow& window) {
   const wxRect area = window.GetScreenRect();
-  wxBitmap bitmap(area.GetSize(), 24);
-  wxScreenDC screen;
-  wxMemoryDC memory(bitmap);
-  memory.Blit(0, 0, area.width, area.height, &screen, area.x, area.y);
-  memory.SelectObject(wxNullBitmap);
-  const wxImage image = bitmap.ConvertToImage();
+  const std::vector<unsigned char> pixels = ScreenPixels(area.x, area.y, area.width, area.height);
   std::map<Colour, int> colours;
-  const unsigned char* pixel = image.GetData();
-  for (int i = 0; i < area.width * area.height; ++i, pixel += 3)
-    ++colours[{pixel[0], pixel[1], pixel[2]}];
+  for (std::size_t i = 0; i < pixels.size(); i += 3)
+    ++colours[{pixels[i], pixels[i + 1], pixels[i + 2]}];
   return colours;
 }
 
@@ -63,6 +55,13 @@ inline const Colour kGrid{56, 61, 56};
 // 0.45 and 0.18 times 255: 114.75 and 45.9.
 inline const Colour kRedAxis{115, 46, 46};
 inline const Colour kGreenAxis{46, 115, 46};
+
+// Ballast and sleepers in the light; nothing else in an empty scene is half as bright.
+inline bool ShowsTrack(const TrackGLCanvas& canvas) {
+  for (const auto& [colour, count] : ColoursOf(canvas))
+    if (std::get<0>(colour) > 180 && std::get<1>(colour) > 180) return true;
+  return false;
+}
 
 class ViewTest : public testing::Test {
  protected:
