@@ -13,12 +13,12 @@
 #include "canvas/operations/locks.h"
 #include "canvas/operations/removal.h"
 #include "canvas/operations/tunnels.h"
+#include "dialogs/message_boxes.h"
 #include "doc/layout_ops.h"
 #include "doc/undo.h"
 #include "frame/commands.h"
 #include "frame/experience_dialog.h"
 #include "frame/main_frame.h"
-#include "frame/message_boxes.h"
 #include "view3d/view3d_frame.h"
 #include "workspace/status_text.h"
 

@@ -42,7 +42,7 @@ constexpr Command kCommands[] = {
     {.id = kCmdCentimetres, .place = units, .label = "Centimetres (cm)", .kind = radio},
     {.id = kCmdInches, .place = units, .label = "Inches (in)", .kind = radio},
 
-    {.id = kCmdLayoutShape, .place = layout, .label = "Layout &Shape...", .available = false},
+    {.id = kCmdLayoutShape, .place = layout, .label = "Layout &Shape..."},
 
     {.id = kCmdHelp, .place = help, .label = "&Help\tF1", .separatorAfter = true,
      .available = false},
@@ -51,8 +51,7 @@ constexpr Command kCommands[] = {
     {.id = kCmdUndo, .place = toolbar, .label = "Undo"},
     {.id = kCmdRedo, .place = toolbar, .label = "Redo", .separatorAfter = true},
     {.id = kCmdLevels, .place = toolbar, .label = "Levels",
-     .tooltip = "Manage layout levels (decks): height, color, and shape", .separatorAfter = true,
-     .available = false},
+     .tooltip = "Manage layout levels (decks): height, color, and shape", .separatorAfter = true},
     {.id = kCmd3DView, .place = toolbar, .label = "3D View", .separatorAfter = true},
     {.id = kCmdZoomToFit, .place = toolbar, .label = "Fit", .separatorAfter = true},
     {.id = kCmdHideLabels, .place = toolbar, .label = "Hide Labels", .kind = check,

@@ -8,9 +8,9 @@
 
 #include <utility>
 
-#include "frame/dialog_layout.h"
+#include "dialogs/dialog_layout.h"
+#include "dialogs/text.h"
 #include "frame/store_folder.h"
-#include "frame/text.h"
 
 namespace vantrel {
 namespace {

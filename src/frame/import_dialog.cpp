@@ -6,9 +6,9 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include "frame/dialog_layout.h"
+#include "dialogs/dialog_layout.h"
+#include "dialogs/text.h"
 #include "frame/store_folder.h"
-#include "frame/text.h"
 
 namespace vantrel {
 namespace {

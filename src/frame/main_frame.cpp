@@ -8,13 +8,13 @@
 #include "app/services/frame_log.h"
 #include "app/services/prefs.h"
 #include "canvas/canvas_panel.h"
+#include "dialogs/text.h"
 #include "frame/commands.h"
 #include "frame/experience_dialog.h"
 #include "frame/menus.h"
 #include "frame/program_title.h"
 #include "frame/splash_dialog.h"
 #include "frame/store_folder.h"
-#include "frame/text.h"
 #include "properties/properties_panel.h"
 #include "view3d/view3d_frame.h"
 #include "workspace/status_text.h"
@@ -181,6 +181,8 @@ wxBEGIN_EVENT_TABLE(MainFrame, wxFrame)
   EVT_MENU(kCmdTunnel, MainFrame::onTunnel)
   EVT_MENU(kCmdMeasure, MainFrame::onTool)
   EVT_MENU(kCmdPolygon, MainFrame::onTool)
+  EVT_MENU(kCmdLayoutShape, MainFrame::onLayoutShape)
+  EVT_MENU(kCmdLevels, MainFrame::onLevels)
   EVT_MENU(kCmdValidate, MainFrame::onValidate)
   EVT_MENU(kCmdLayoutProperties, MainFrame::onLayoutProperties)
   EVT_MENU(kCmd3DView, MainFrame::on3DView)

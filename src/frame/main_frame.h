@@ -85,6 +85,7 @@ class MainFrame : public wxFrame, public Workspace {
   void showLoadedLayout();
   void askExperienceIfDue();
   void switchTool(int id, bool on);
+  void armBaseboardTool();
   void showHistoryState();
   void rebuildView3D();
 
@@ -109,6 +110,8 @@ class MainFrame : public wxFrame, public Workspace {
   void onHideLabels(wxCommandEvent& event);
   void onTunnel(wxCommandEvent& event);
   void onTool(wxCommandEvent& event);
+  void onLayoutShape(wxCommandEvent& event);
+  void onLevels(wxCommandEvent& event);
   void onValidate(wxCommandEvent& event);
   void onLayoutProperties(wxCommandEvent& event);
   void on3DView(wxCommandEvent& event);

@@ -6,10 +6,10 @@
 
 #include <utility>
 
-#include "frame/dialog_layout.h"
-#include "frame/message_boxes.h"
+#include "dialogs/dialog_layout.h"
+#include "dialogs/message_boxes.h"
+#include "dialogs/text.h"
 #include "frame/store_folder.h"
-#include "frame/text.h"
 
 namespace vantrel {
 namespace {

@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "app/services/app_log.h"
+#include "dialogs/message_boxes.h"
 #include "frame/main_frame.h"
-#include "frame/message_boxes.h"
 #include "frame/store_folder.h"
 #include "io/layout_file.h"
 

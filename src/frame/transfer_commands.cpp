@@ -2,10 +2,10 @@
 #include <filesystem>
 
 #include "app/services/utf8_path.h"
+#include "dialogs/message_boxes.h"
 #include "frame/export_dialog.h"
 #include "frame/import_dialog.h"
 #include "frame/main_frame.h"
-#include "frame/message_boxes.h"
 #include "frame/store_folder.h"
 #include "io/layout_file.h"
 

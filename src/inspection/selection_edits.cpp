@@ -6,9 +6,9 @@
 
 #include "canvas/operations/selection.h"
 #include "doc/layout_ops.h"
+#include "doc/trimmed.h"
 #include "doc/undo.h"
 #include "inspection/shown_unit.h"
-#include "inspection/trimmed.h"
 
 namespace vantrel {
 namespace {

@@ -1,11 +1,9 @@
 #include "inspection/shown_unit.h"
 
-#include <charconv>
 #include <cmath>
-#include <system_error>
 
 #include "doc/format_length.h"
-#include "inspection/trimmed.h"
+#include "doc/typed_number.h"
 
 namespace vantrel {
 
@@ -25,16 +23,9 @@ std::string HeightText(double mm, const ShownUnit& unit) {
 }
 
 std::optional<double> HeightFromText(std::string_view text, const ShownUnit& unit) {
-  text = Trimmed(text);
-  // from_chars knows no plus sign, and two signs are no number.
-  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
-  double value = 0.0;
-  const char* const end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, value);
-  if (error != std::errc{} || stop != end) return std::nullopt;
-  const double mm = value * unit.mm;
-  if (!std::isfinite(mm)) return std::nullopt;
-  return mm;
+  const std::optional<double> value = TypedNumber(text);
+  if (!value || !std::isfinite(*value * unit.mm)) return std::nullopt;
+  return *value * unit.mm;
 }
 
 }  // namespace vantrel

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "inspection/trimmed.h"
+#include "doc/trimmed.h"
 
 namespace vantrel {
 namespace {

@@ -9,6 +9,7 @@ namespace vantrel {
 
 // `parent` may be null.
 void Inform(wxWindow* parent, const std::string& title, const std::string& text);
+void Warn(wxWindow* parent, const std::string& title, const std::string& text);
 void ReportError(wxWindow* parent, const std::string& title, const std::string& text);
 
 // Yes and No; true for Yes.

@@ -1,4 +1,4 @@
-// What the frame's dialogs have in common.
+// What the dialogs have in common.
 #pragma once
 
 #include <wx/dialog.h>

@@ -1,4 +1,4 @@
-#include "inspection/trimmed.h"
+#include "doc/trimmed.h"
 
 #include <array>
 

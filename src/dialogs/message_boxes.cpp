@@ -1,8 +1,8 @@
-#include "frame/message_boxes.h"
+#include "dialogs/message_boxes.h"
 
 #include <wx/msgdlg.h>
 
-#include "frame/text.h"
+#include "dialogs/text.h"
 
 namespace vantrel {
 namespace {
@@ -15,6 +15,10 @@ int Box(wxWindow* parent, const std::string& title, const std::string& text, lon
 
 void Inform(wxWindow* parent, const std::string& title, const std::string& text) {
   Box(parent, title, text, wxOK | wxICON_INFORMATION);
+}
+
+void Warn(wxWindow* parent, const std::string& title, const std::string& text) {
+  Box(parent, title, text, wxOK | wxICON_WARNING);
 }
 
 void ReportError(wxWindow* parent, const std::string& title, const std::string& text) {

@@ -1,11 +1,11 @@
-#include "frame/dialog_layout.h"
+#include "dialogs/dialog_layout.h"
 
 #include <wx/button.h>
 #include <wx/dirdlg.h>
 #include <wx/listbox.h>
 #include <wx/textctrl.h>
 
-#include "frame/text.h"
+#include "dialogs/text.h"
 
 namespace vantrel {
 namespace {

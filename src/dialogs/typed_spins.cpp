@@ -1,0 +1,65 @@
+#include "dialogs/typed_spins.h"
+
+#include <wx/dialog.h>
+#include <wx/spinctrl.h>
+
+#include <cmath>
+#include <optional>
+
+#include "dialogs/text.h"
+#include "doc/typed_number.h"
+
+namespace vantrel {
+
+TypedSpins::TypedSpins(wxDialog& dialog) {
+  dialog.Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+    event.Skip();
+    const int key = event.GetKeyCode();
+    if (key == WXK_RETURN || key == WXK_NUMPAD_ENTER) noteAll();
+  });
+}
+
+void TypedSpins::watch(wxSpinCtrlBase& spin, double smallest, double largest, bool wholeOnly) {
+  watched_.push_back({&spin, smallest, largest, wholeOnly});
+  spin.Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
+    event.Skip();
+    noteAll();
+  });
+  spin.Bind(wxEVT_SET_FOCUS, [this, &spin](wxFocusEvent& event) {
+    event.Skip();
+    if (Watched* watched = find(&spin)) watched->refused = false;
+  });
+}
+
+void TypedSpins::clear() {
+  watched_.clear();
+}
+
+wxSpinCtrlBase* TypedSpins::takeRefused() {
+  noteAll();
+  wxSpinCtrlBase* first = nullptr;
+  for (Watched& watched : watched_) {
+    if (watched.refused && first == nullptr) first = watched.spin;
+    watched.refused = false;
+  }
+  return first;
+}
+
+bool TypedSpins::isTaken(const Watched& watched) {
+  const std::optional<double> number = TypedNumber(ToUtf8(watched.spin->GetTextValue()));
+  if (!number || *number < watched.smallest || *number > watched.largest) return false;
+  return !watched.wholeOnly || std::floor(*number) == *number;
+}
+
+TypedSpins::Watched* TypedSpins::find(wxSpinCtrlBase* spin) {
+  for (Watched& watched : watched_)
+    if (watched.spin == spin) return &watched;
+  return nullptr;
+}
+
+void TypedSpins::noteAll() {
+  for (Watched& watched : watched_)
+    if (!isTaken(watched)) watched.refused = true;
+}
+
+}  // namespace vantrel

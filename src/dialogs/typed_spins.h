@@ -1,0 +1,49 @@
+// Spin controls as a dialog's OK wants them. A spin control silently puts a number of its own in
+// the place of a text that it can't take, when the focus leaves it or Enter is pressed; a dialog
+// that accepts then would take a number that the user never saw.
+#pragma once
+
+#include <wx/event.h>
+
+#include <vector>
+
+class wxDialog;
+class wxSpinCtrlBase;
+
+namespace vantrel {
+
+// Lives at least as long as its dialog's controls are used.
+class TypedSpins {
+ public:
+  // `dialog` is where Enter accepts.
+  explicit TypedSpins(wxDialog& dialog);
+  TypedSpins(const TypedSpins&) = delete;
+  TypedSpins& operator=(const TypedSpins&) = delete;
+
+  // Watches a spin control for texts that are no number, none within the bounds, or with
+  // `wholeOnly` no whole one.
+  void watch(wxSpinCtrlBase& spin, double smallest, double largest, bool wholeOnly);
+  // Forgets all controls; to be called before they are destroyed.
+  void clear();
+
+  // The first control whose typed text was not taken since it last got the focus, or null. Asking
+  // forgets it: the user has been told, and sees what stands there now.
+  wxSpinCtrlBase* takeRefused();
+
+ private:
+  struct Watched {
+    wxSpinCtrlBase* spin = nullptr;
+    double smallest = 0.0;
+    double largest = 0.0;
+    bool wholeOnly = false;
+    bool refused = false;
+  };
+
+  static bool isTaken(const Watched& watched);
+  Watched* find(wxSpinCtrlBase* spin);
+  void noteAll();
+
+  std::vector<Watched> watched_;
+};
+
+}  // namespace vantrel

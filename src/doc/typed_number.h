@@ -1,0 +1,13 @@
+// Numbers as the user types them.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace vantrel {
+
+// The real number that the text is, or nothing when it is none: empty, with something but blanks
+// around the number, not finite. The decimal point is ".", whatever the locale.
+std::optional<double> TypedNumber(std::string_view text);
+
+}  // namespace vantrel
