@@ -19,6 +19,7 @@ constexpr const char* kOutlineHint =
 }  // namespace
 
 void MainFrame::onLayoutShape(wxCommandEvent&) {
+  canvas_->endGestures();
   LayoutShapeDialog dialog(this, layout_);
   if (dialog.ShowModal() != wxID_OK) return;
   if (dialog.freeForm()) {
@@ -42,6 +43,7 @@ void MainFrame::armBaseboardTool() {
 
 // The dialog works on the plan itself: whatever closes it, the plan may have changed.
 void MainFrame::onLevels(wxCommandEvent&) {
+  canvas_->endGestures();
   EnsureDefaultLevel(layout_);
   LevelManagerDialog(this, layout_).ShowModal();
   setStatus(kStatusPieces, PiecesText(layout_.pieces.size()));

@@ -52,8 +52,8 @@ inline std::vector<std::string> CutOffControls(wxWindow& window) {
     const bool small = !scrolls && (rect.width < best.x || rect.height < best.y);
     const bool outside = !wxRect(window.GetClientSize()).Contains(rect);
     if (small || outside) {
-      const wxString name =
-          child->GetLabel().empty() ? child->GetClassInfo()->GetClassName() : child->GetLabel();
+      wxString name = child->GetLabel();
+      if (name.empty()) name = child->GetClassInfo()->GetClassName();
       found.push_back(name.utf8_string());
     }
     if (dynamic_cast<wxPanel*>(child) != nullptr && !scrolls)

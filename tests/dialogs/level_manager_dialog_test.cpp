@@ -251,7 +251,7 @@ TEST_F(LevelManager, TheQuestionHasItsOwnTwoAnswers) {
   Select(dialog(), 1);
   script_.dialog(kRemovalTitle, wxID_CANCEL, [](wxDialog& asked) {
     auto& box = dynamic_cast<wxMessageDialog&>(asked);
-    EXPECT_EQ(box.GetOKLabel(), "Delete Level && Contents");
+    EXPECT_EQ(box.GetOKLabel(), "Delete Level & Contents");
     EXPECT_EQ(box.GetCancelLabel(), "Cancel");
   });
   Press(dialog(), "Remove Level");
