@@ -15,8 +15,11 @@
 #include "canvas/gestures/deleting.h"
 #include "canvas/gestures/helix_placement.h"
 #include "canvas/gestures/palette_drag.h"
+#include "canvas/gestures/polygon_draft.h"
 #include "canvas/gestures/scenery_drag.h"
 #include "canvas/gestures/view_navigation.h"
+#include "canvas/resize_scenery_dialog.h"
+#include "canvas/shape_properties_dialog.h"
 
 namespace vantrel {
 namespace {
@@ -121,7 +124,8 @@ void CanvasPanel::bindEvents() {
       wxEVT_MENU,
       [this](wxCommandEvent&) {
         CanvasContext canvas = context();
-        deleteFromCanvas(canvas);
+        // Where the table takes the keys before the window, Backspace must still reach the draft.
+        if (!polygonKey(canvas, {.code = WXK_BACK, .mods = {}})) deleteFromCanvas(canvas);
       },
       kCanvasDelete);
   Bind(wxEVT_KEY_DOWN, &CanvasPanel::onKeyDown, this);
@@ -320,12 +324,29 @@ int CanvasPanel::popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) {
   return taken;
 }
 
+std::optional<ShapeProperties> CanvasPanel::editShape(const ShapeProperties& properties,
+                                                      std::int32_t units) {
+  ShapePropertiesDialog dialog(wxGetTopLevelParent(this), properties, units);
+  if (dialog.ShowModal() != wxID_OK) return std::nullopt;
+  return dialog.properties();
+}
+
+std::optional<SceneryScale> CanvasPanel::resizeScenery(SceneryFootprint size, SceneryScale scale) {
+  ResizeSceneryDialog dialog(wxGetTopLevelParent(this), size, scale);
+  if (dialog.ShowModal() == wxID_CANCEL) return std::nullopt;
+  return dialog.scale();
+}
+
 void CanvasPanel::startFlashTimer(int milliseconds) {
   flashTimer_.StartOnce(milliseconds);
 }
 
 void CanvasPanel::stopFlashTimer() {
   flashTimer_.Stop();
+}
+
+void CanvasPanel::clickToolEnded(std::int32_t toolMode) {
+  workspace_.clickToolEnded(toolMode);
 }
 
 void CanvasPanel::selectionChanged() {

@@ -79,8 +79,12 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
   bool ask(const std::string& title, const std::string& text, bool defaultYes) override;
   int chooseAutofill(double gapMm, const std::vector<std::string>& rows) override;
   int popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) override;
+  std::optional<ShapeProperties> editShape(const ShapeProperties& properties,
+                                           std::int32_t units) override;
+  std::optional<SceneryScale> resizeScenery(SceneryFootprint size, SceneryScale scale) override;
   void startFlashTimer(int milliseconds) override;
   void stopFlashTimer() override;
+  void clickToolEnded(std::int32_t toolMode) override;
   void selectionChanged() override;
   void markDirty() override;
   void refreshViews() override;

@@ -3,15 +3,17 @@
 #include <span>
 
 #include "canvas/gestures/alt_rotation.h"
+#include "canvas/gestures/annotation_dialogs.h"
 #include "canvas/gestures/annotation_moves.h"
-#include "canvas/gestures/click_tools.h"
 #include "canvas/gestures/cloning.h"
 #include "canvas/gestures/context_menu.h"
 #include "canvas/gestures/deleting.h"
 #include "canvas/gestures/gesture_end.h"
 #include "canvas/gestures/helix_placement.h"
+#include "canvas/gestures/measure_draft.h"
 #include "canvas/gestures/palette_drag.h"
 #include "canvas/gestures/panning.h"
+#include "canvas/gestures/polygon_draft.h"
 #include "canvas/gestures/rubber_band.h"
 #include "canvas/gestures/scale_handles.h"
 #include "canvas/gestures/scenery_drag.h"
@@ -51,10 +53,12 @@ bool endBandOrDrag(CanvasContext& context, const PointerEvent& event);
 
 // In each list the first step that takes the event ends it.
 
+// clang-format off
 constexpr PointerStep kLeftPress[] = {
     takeFocus,              // takes nothing
     endGestureBeforePress,  // takes nothing
-    clickToolPress,
+    measurePress,
+    polygonPress,
     pressMeasurement,
     pressShape,
     pressScaleHandle,
@@ -73,7 +77,8 @@ constexpr PointerStep kLeftPress[] = {
 constexpr PointerStep kMotion[] = {
     showPointerPosition,  // takes nothing
     endMissedGesture,     // takes nothing
-    clickToolMotion,      // ends the list for every motion while a tool is armed
+    measureMotion,        // these two end the list for every motion while their tool is armed
+    polygonMotion,
     shapeMoveMotion,
     measureMoveMotion,
     hoverScaleHandle,  // takes nothing
@@ -93,33 +98,75 @@ constexpr PointerStep kMotion[] = {
 };
 
 constexpr PointerStep kLeftRelease[] = {
-    endShapeMove, endMeasureMove, endDeckDrag, endSceneryResize, endAltRotate, endTheRest,
+    endShapeMove,
+    endMeasureMove,
+    endDeckDrag,
+    endSceneryResize,
+    endAltRotate,
+    endTheRest,
 };
 
 // These all end with one release: a pan may run beside any of the others.
-constexpr PointerStep kTheRest[] = {endSelectionPending, endLabelDrag, endButtonPan, endBandOrDrag};
+constexpr PointerStep kTheRest[] = {
+    endSelectionPending,
+    endLabelDrag,
+    endButtonPan,
+    endBandOrDrag,
+};
 
+// While a tool is armed, the second of two quick presses is a press like the first.
 constexpr PointerStep kDoubleClick[] = {
     endGestureBeforePress,  // takes nothing
+    measurePress,
+    polygonPress,
+    openAnnotationDialog,
     cloneFromPiece,
 };
 
 constexpr PointerStep kMiddlePress[] = {takeFocus, beginButtonPan};
 constexpr PointerStep kMiddleRelease[] = {endButtonPan};
 
-constexpr PointerStep kRightPress[] = {takeFocus, paletteDragRightPress, sceneryDragRightPress,
-                                       altRightPress, contextMenuPress};
+constexpr PointerStep kRightPress[] = {
+    takeFocus,  // takes nothing
+    paletteDragRightPress,
+    sceneryDragRightPress,
+    altRightPress,
+    contextMenuPress,
+};
 
 // Turning comes before zooming, so the view stays while something hangs at the pointer.
-constexpr PointerStep kWheel[] = {paletteDragWheel, sceneryDragWheel, selectionWheel, wheelZoom};
+constexpr PointerStep kWheel[] = {
+    paletteDragWheel,
+    sceneryDragWheel,
+    selectionWheel,
+    wheelZoom,
+};
 
-constexpr KeyStep kKeys[] = {paletteDragKey, sceneryDragKey, escapeKey, deleteKey};
+constexpr KeyStep kKeys[] = {
+    measureKey,
+    polygonKey,
+    paletteDragKey,
+    sceneryDragKey,
+    escapeKey,
+    deleteKey,
+};
 constexpr KeyStep kCharacters[] = {zoomByCharacter};
 
 constexpr PaintStep kPaint[] = {
-    drawContents,      drawRulerBands,  drawScaleHandles, showGradeRuns,      drawRubberBand,
-    drawSelectionDrag, drawPaletteDrag, drawSceneryDrag,  drawHelixPlacement, drawAltRotate,
+    drawContents,
+    drawRulerBands,
+    drawScaleHandles,
+    showGradeRuns,
+    drawRubberBand,
+    drawPolygonDraft,
+    drawMeasureDraft,
+    drawSelectionDrag,
+    drawPaletteDrag,
+    drawSceneryDrag,
+    drawHelixPlacement,
+    drawAltRotate,
 };
+// clang-format on
 
 template <typename Step, typename Event>
 bool Offer(std::span<const Step> steps, CanvasContext& context, const Event& event) {

@@ -144,6 +144,12 @@ void MainFrame::switchTool(int id, bool on) {
   canvas_->Refresh();
 }
 
+// The baseboard's drawing has no button.
+void MainFrame::clickToolEnded(std::int32_t toolMode) {
+  if (toolMode == kMeasureTool) GetToolBar()->ToggleTool(kCmdMeasure, false);
+  if (toolMode == kPolygonTool) GetToolBar()->ToggleTool(kCmdPolygon, false);
+}
+
 void MainFrame::onValidate(wxCommandEvent&) {
   Inform(this, "Validate", "Validation not yet implemented.");
 }

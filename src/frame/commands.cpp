@@ -62,11 +62,10 @@ constexpr Command kCommands[] = {
      .startsEnabled = false},
     {.id = kCmdMeasure, .place = toolbar, .label = "Measure", .kind = check,
      .tooltip =
-         "Measuring tape: click two points on the canvas to lay down a length annotation",
-     .available = false},
+         "Measuring tape: click two points on the canvas to lay down a length annotation"},
     {.id = kCmdPolygon, .place = toolbar, .label = "Polygon", .kind = check,
      .tooltip = "Draw a free-form polygon (access hatch, river, mountain, etc.)",
-     .separatorAfter = true, .available = false},
+     .separatorAfter = true},
 };
 // clang-format on
 

@@ -34,6 +34,7 @@ class MainFrame : public wxFrame, public Workspace {
   void noteCanvasClick(Vec2 world) override;
   void setStatus(StatusField field, const std::string& text) override;
   std::string status(StatusField field) const override;
+  void clickToolEnded(std::int32_t toolMode) override;
   void placeHelix(std::string_view kitId, const Pose& pose) override;
 
   PalettePanel& palette() { return *palette_; }

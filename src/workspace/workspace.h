@@ -2,6 +2,7 @@
 // implements it; panels never know the frame.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -29,6 +30,9 @@ class Workspace {
 
   virtual void setStatus(StatusField field, const std::string& text) = 0;
   virtual std::string status(StatusField field) const = 0;
+
+  // The canvas has ended the tool of this toolMode by itself: its button in the toolbar comes up.
+  virtual void clickToolEnded(std::int32_t toolMode) = 0;
 
   // Places a helix of this kit at a world pose, as the palette's double click does.
   virtual void placeHelix(std::string_view kitId, const Pose& pose) = 0;

@@ -34,6 +34,7 @@ class FakeWorkspace : public Workspace {
   void noteCanvasClick(Vec2) override {}
   void setStatus(StatusField field, const std::string& text) override { texts.at(field) = text; }
   std::string status(StatusField field) const override { return texts.at(field); }
+  void clickToolEnded(std::int32_t) override {}
   void placeHelix(std::string_view, const Pose&) override {}
 };
 

@@ -44,6 +44,8 @@ TEST_F(EventOrder, AnArmedClickToolKeepsTheCrossAndStopsEveryMotionAndPress) {
   const Vec2 before = state.paletteDrag.at;
   for (const std::int32_t mode : {kMeasureTool, kPolygonTool, kBaseboardTool}) {
     layout.toolMode = mode;
+    state.polygonDraft = {};
+    state.measureDraft = {};
     host.cursors.clear();
     EXPECT_TRUE(move(500, 500));
     EXPECT_EQ(host.cursor(), CanvasCursor::cross);

@@ -50,6 +50,7 @@ class RecordingWorkspace : public Workspace {
   void noteCanvasClick(Vec2) override {}
   void setStatus(StatusField, const std::string&) override {}
   std::string status(StatusField) const override { return {}; }
+  void clickToolEnded(std::int32_t) override {}
   void placeHelix(std::string_view kitId, const Pose& pose) override {
     kits.emplace_back(kitId);
     poses.push_back(pose);

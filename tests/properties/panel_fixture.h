@@ -40,6 +40,7 @@ class RecordingWorkspace : public Workspace {
     calls.push_back("status " + std::to_string(field) + " " + text);
   }
   std::string status(StatusField) const override { return {}; }
+  void clickToolEnded(std::int32_t) override {}
   void placeHelix(std::string_view, const Pose&) override {}
 
   Layout document = PlanWithThreeLevels();

@@ -38,6 +38,7 @@ class QuietWorkspace : public Workspace {
   void noteCanvasClick(Vec2) override {}
   void setStatus(StatusField, const std::string&) override {}
   std::string status(StatusField) const override { return {}; }
+  void clickToolEnded(std::int32_t) override {}
   void placeHelix(std::string_view, const Pose&) override {}
 
   Layout document;

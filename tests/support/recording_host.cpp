@@ -61,6 +61,17 @@ int RecordingHost::popUpMenu(std::span<const MenuEntry> entries, DevicePoint at)
   return choice;
 }
 
+std::optional<ShapeProperties> RecordingHost::editShape(const ShapeProperties& properties,
+                                                        std::int32_t) {
+  shapesShown.push_back(properties);
+  return shapeChosen;
+}
+
+std::optional<SceneryScale> RecordingHost::resizeScenery(SceneryFootprint, SceneryScale scale) {
+  scalesShown.push_back(scale);
+  return scaleChosen;
+}
+
 void RecordingHost::startFlashTimer(int milliseconds) {
   timerMs = milliseconds;
   ++timerStarts;
@@ -68,6 +79,10 @@ void RecordingHost::startFlashTimer(int milliseconds) {
 
 void RecordingHost::stopFlashTimer() {
   timerMs = 0;
+}
+
+void RecordingHost::clickToolEnded(std::int32_t toolMode) {
+  endedTools.push_back(toolMode);
 }
 
 void RecordingHost::selectionChanged() {

@@ -32,7 +32,13 @@ class RecordingHost : public CanvasHost {
   std::vector<bool> defaults;                 // the default answers of the questions, in order
   std::vector<std::vector<MenuEntry>> menus;  // all that popped up, in order
   DevicePoint menuAt;
-  int choice = 0;   // what `popUpMenu` returns
+  int choice = 0;                        // what `popUpMenu` returns
+  std::vector<std::int32_t> endedTools;  // the modes of the tools that ended, in order
+  // What the dialogs were shown, and what they return.
+  std::vector<ShapeProperties> shapesShown;
+  std::optional<ShapeProperties> shapeChosen;
+  std::vector<SceneryScale> scalesShown;
+  std::optional<SceneryScale> scaleChosen;
   int timerMs = 0;  // of the flash timer when it runs, else 0
   int timerStarts = 0;
   std::vector<Vec2> canvasClicks;
@@ -55,9 +61,13 @@ class RecordingHost : public CanvasHost {
   void inform(const std::string& title, const std::string& text, BoxIcon icon) override;
   bool ask(const std::string& title, const std::string& text, bool defaultYes) override;
   int popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) override;
+  std::optional<ShapeProperties> editShape(const ShapeProperties& properties,
+                                           std::int32_t units) override;
+  std::optional<SceneryScale> resizeScenery(SceneryFootprint size, SceneryScale scale) override;
   void startFlashTimer(int milliseconds) override;
   void stopFlashTimer() override;
   int chooseAutofill(double gapMm, const std::vector<std::string>& rows) override;
+  void clickToolEnded(std::int32_t toolMode) override;
   void selectionChanged() override;
   void markDirty() override;
   void refreshViews() override;

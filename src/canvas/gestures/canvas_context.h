@@ -91,6 +91,21 @@ struct AltRotate {
   double helixHeading = 0.0;   // its heading at the start, degrees
 };
 
+// The tape between the first click and the second.
+struct MeasureDraft {
+  bool active = false;
+  Vec2 start;  // mm
+  Vec2 end;
+};
+
+// The polygon whose vertices are being clicked.
+struct PolygonDraft {
+  bool active = false;
+  std::vector<Vec2> vertices;  // mm
+  Vec2 pointer;                // mm
+  bool closeHover = false;     // a click would close it
+};
+
 struct LabelDrag {
   bool active = false;
   std::int32_t label = kNone;
@@ -139,6 +154,8 @@ struct CanvasState {
   SelectionDrag selectionDrag;
   RubberBand rubberBand;
   AltRotate altRotate;
+  MeasureDraft measureDraft;
+  PolygonDraft polygonDraft;
   LabelDrag labelDrag;
   MeasureMove measureMove;
   ShapeMove shapeMove;

@@ -2,10 +2,13 @@
 // implement it with a recorder.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "canvas/operations/shape_properties.h"
 #include "doc/view_transform.h"
 #include "workspace/workspace.h"
 
@@ -48,9 +51,17 @@ class CanvasHost {
   // Pops a menu up at a client point; the id of the entry taken, or 0.
   virtual int popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) = 0;
 
+  // The two small dialogs; nothing when the user gives up.
+  virtual std::optional<ShapeProperties> editShape(const ShapeProperties& properties,
+                                                   std::int32_t units) = 0;
+  virtual std::optional<SceneryScale> resizeScenery(SceneryFootprint size, SceneryScale scale) = 0;
+
   // One timer: calls onFlashTimer once after this time, unless it is started anew or stopped.
   virtual void startFlashTimer(int milliseconds) = 0;
   virtual void stopFlashTimer() = 0;
+
+  // The tool of this toolMode has ended: its button comes up.
+  virtual void clickToolEnded(std::int32_t toolMode) = 0;
 
   virtual void selectionChanged() = 0;
   virtual void markDirty() = 0;

@@ -9,9 +9,6 @@ namespace vantrel {
 bool cloneFromPiece(CanvasContext& context, const PointerEvent& event) {
   if (event.mods.alt) return false;
   const ViewTransform& view = context.state.view;
-  // What lies over the track keeps it from being extended.
-  if (hitTestShape(context.layout, view, event.at) != kNone) return true;
-  if (hitTestScenery(context.layout, view, event.at) != kNone) return true;
   const std::int32_t id = hitTestPiece(context.layout, view, event.at);
   const CloneOutcome outcome =
       id == kNone ? CloneOutcome::notApplicable : clonePiece(context.layout, id).outcome;

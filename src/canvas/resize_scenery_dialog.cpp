@@ -1,0 +1,88 @@
+#include "canvas/resize_scenery_dialog.h"
+
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/sizer.h>
+#include <wx/spinctrl.h>
+#include <wx/stattext.h>
+
+#include <algorithm>
+#include <string>
+
+#include "doc/format_length.h"
+
+namespace vantrel {
+namespace {
+
+constexpr double kSmallest = 0.1;
+constexpr double kLargest = 10.0;
+constexpr double kStep = 0.1;
+constexpr int kSpinWidth = 80;
+constexpr int kMargin = 10;
+
+std::string Whole(double mm) {
+  return FormatFixed(mm, 0);
+}
+
+}  // namespace
+
+ResizeSceneryDialog::ResizeSceneryDialog(wxWindow* parent, SceneryFootprint size,
+                                         SceneryScale scale)
+    : wxDialog(parent, wxID_ANY, "Resize Scenery"),
+      startRatio_(scale.y > 0.0 ? scale.x / scale.y : 1.0) {
+  auto* const column = new wxBoxSizer(wxVERTICAL);
+  const std::string sizes = "Catalog size: " + Whole(size.width) + " x " + Whole(size.depth) +
+                            " mm    Current: " + Whole(size.width * scale.x) + " x " +
+                            Whole(size.depth * scale.y) + " mm";
+  column->Add(new wxStaticText(this, wxID_ANY, wxString::FromUTF8(sizes)), 0, wxALL, kMargin);
+  width_ = addRow(*column, "Width scale:", scale.x, size.width * scale.x);
+  depth_ = addRow(*column, "Depth scale:", scale.y, size.depth * scale.y);
+  locked_ = new wxCheckBox(this, wxID_ANY, "Lock aspect ratio");
+  locked_->SetValue(true);
+  column->Add(locked_, 0, wxALL, kMargin);
+
+  auto* const buttons = new wxBoxSizer(wxHORIZONTAL);
+  buttons->Add(new wxButton(this, wxID_RESET, "Reset to Default"));
+  buttons->AddStretchSpacer();
+  auto* const ok = new wxButton(this, wxID_OK, "OK");
+  buttons->Add(ok, 0, wxLEFT, kMargin);
+  buttons->Add(new wxButton(this, wxID_CANCEL, "Cancel"), 0, wxLEFT, kMargin);
+  column->Add(buttons, 0, wxALL | wxEXPAND, kMargin);
+  ok->SetDefault();
+  SetSizerAndFit(column);
+  CentreOnParent();
+
+  width_->Bind(wxEVT_SPINCTRLDOUBLE, &ResizeSceneryDialog::onWidth, this);
+  Bind(
+      wxEVT_BUTTON, [this](wxCommandEvent&) { EndModal(wxID_RESET); }, wxID_RESET);
+}
+
+wxSpinCtrlDouble* ResizeSceneryDialog::addRow(wxSizer& column, const wxString& caption,
+                                              double factor, double sizeMm) {
+  auto* const row = new wxBoxSizer(wxHORIZONTAL);
+  row->Add(new wxStaticText(this, wxID_ANY, caption), 0, wxALIGN_CENTRE_VERTICAL);
+  auto* const spin =
+      new wxSpinCtrlDouble(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+                           wxSP_ARROW_KEYS, kSmallest, kLargest, factor, kStep);
+  // As many digits as a factor can have that was made with the mouse and is worth reading.
+  spin->SetDigits(3);
+  spin->SetValue(factor);
+  spin->SetMinSize(wxSize(std::max(kSpinWidth, spin->GetBestSize().GetWidth()), -1));
+  row->Add(spin, 0, wxLEFT | wxALIGN_CENTRE_VERTICAL, kMargin);
+  const std::string size = "(= " + Whole(sizeMm) + " mm)";
+  row->Add(new wxStaticText(this, wxID_ANY, wxString::FromUTF8(size)), 0,
+           wxLEFT | wxALIGN_CENTRE_VERTICAL, kMargin);
+  column.Add(row, 0, wxLEFT | wxRIGHT | wxTOP, kMargin);
+  return spin;
+}
+
+void ResizeSceneryDialog::onWidth(wxSpinDoubleEvent& event) {
+  if (locked_->GetValue()) depth_->SetValue(event.GetValue() / startRatio_);
+}
+
+SceneryScale ResizeSceneryDialog::scale() const {
+  if (GetReturnCode() == wxID_RESET) return {};
+  return {.x = width_->GetValue(), .y = depth_->GetValue()};
+}
+
+}  // namespace vantrel
