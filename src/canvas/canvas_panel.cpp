@@ -317,8 +317,7 @@ int CanvasPanel::chooseAutofill(double gapMm, const std::vector<std::string>& ro
 int CanvasPanel::popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) {
   wxMenu menu;
   int taken = 0;
-  for (const MenuEntry& entry : entries)
-    menu.Append(entry.id, wxString::FromUTF8(entry.label))->Enable(entry.enabled);
+  for (const MenuEntry& entry : entries) menu.Append(entry.id, wxString::FromUTF8(entry.label));
   menu.Bind(wxEVT_MENU, [&taken](wxCommandEvent& event) { taken = event.GetId(); });
   PopupMenu(&menu, at.x, at.y);
   return taken;

@@ -55,7 +55,7 @@ TEST_F(AnnotationDialogs, CancelChangesNothing) {
 
 TEST_F(AnnotationDialogs, AnOpacityOfThirtyThreePercentIs84) {
   layShape({100.0, 100.0}, 200.0);
-  host.shapeChosen = ShapeProperties{.opacityPercent = 33};
+  host.shapeChosen.emplace().opacityPercent = 33;
   onDoubleClick(context, at(150, 150));
   // 33 * 255 / 100 = 84.15.
   EXPECT_EQ(layout.shapes[0].a, 84);

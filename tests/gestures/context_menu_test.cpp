@@ -57,6 +57,18 @@ TEST_F(ContextMenu, ExactlyTwoPiecesOfferAutofillFirst) {
   EXPECT_EQ(host.menus[0][0].id, 6001);
 }
 
+TEST_F(ContextMenu, AutofillFillsTheGapBetweenTheTwo) {
+  const std::int32_t a = lay("24188", {100.0, 100.0, 0.0});
+  const std::int32_t b = lay("24188", {476.6, 100.0, 0.0});
+  select({a, b});
+  host.choice = kMenuAutofill;
+  host.chosenFill = 0;
+  pressRight(150, 100);
+  ASSERT_EQ(layout.pieces.size(), 3u);
+  EXPECT_EQ(layout.pieces[2].cat, "24188");
+  EXPECT_EQ(JointOf(layout, b, 0), (Joint{layout.pieces[2].id, 1}));
+}
+
 TEST_F(ContextMenu, AShapeUnderAPieceComesFirstAndLeavesPiecesSelected) {
   const std::int32_t track = lay("24188", {100.0, 100.0, 0.0});
   const std::int32_t under = layShape({0.0, 0.0}, 400.0);

@@ -22,7 +22,6 @@ enum class BoxIcon { information, exclamation, warning, question, error };
 struct MenuEntry {
   int id = 0;
   std::string label;
-  bool enabled = true;
 };
 
 class CanvasHost {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "canvas/gestures/autofill_gap.h"
 #include "canvas/gestures/gesture_end.h"
 #include "canvas/gestures/status_line.h"
 #include "canvas/operations/hit_test.h"
@@ -36,10 +37,18 @@ void PieceMenu(CanvasContext& context, const Piece& piece, DevicePoint at) {
   context.host.repaint();
   std::vector<MenuEntry> entries;
   if (selectedPieces(context.layout).size() == 2)
-    entries.push_back({.id = kMenuAutofill, .label = "Autofill Gap...", .enabled = false});
+    entries.push_back({.id = kMenuAutofill, .label = "Autofill Gap..."});
   entries.push_back(kCopyEntry);
-  if (context.host.popUpMenu(entries, at) == kMenuCopy)
-    copySelection(context.layout, context.state.clipboard);
+  switch (context.host.popUpMenu(entries, at)) {
+    case kMenuAutofill:
+      autofillGap(context);
+      break;
+    case kMenuCopy:
+      copySelection(context.layout, context.state.clipboard);
+      break;
+    default:
+      break;
+  }
 }
 
 void PasteMenu(CanvasContext& context, const PointerEvent& event) {
