@@ -140,7 +140,7 @@ TEST_F(CommandHandlers, RedoMarksTheLayoutChangedEvenWithoutAHistory) {
 // The view at scale 1 has its origin at pixel (60, 60).
 TEST_F(CommandHandlers, UndoInMidDragUndoesTheWholeDragAndNoMotionOverwritesIt) {
   addPiece();
-  frame().Show();
+  showFrame();
   frame().canvas().resetViewUnitScale();
   dragOnCanvas({160, 60}, {160, 260});
   EXPECT_EQ(plan().pieces[0].y, 200.0);
@@ -157,7 +157,7 @@ TEST_F(CommandHandlers, UndoInMidDragUndoesTheWholeDragAndNoMotionOverwritesIt) 
 TEST_F(CommandHandlers, SelectAllInMidDragLeavesEveryPieceInItsPlace) {
   addPiece().y = 1000.0;
   addPiece();
-  frame().Show();
+  showFrame();
   frame().canvas().resetViewUnitScale();
   dragOnCanvas({160, 60}, {160, 260});
   command(kCmdSelectAll);
@@ -170,7 +170,7 @@ TEST_F(CommandHandlers, SelectAllInMidDragLeavesEveryPieceInItsPlace) {
 
 TEST_F(CommandHandlers, DeleteInMidDragEndsItFirst) {
   addPiece();
-  frame().Show();
+  showFrame();
   frame().canvas().resetViewUnitScale();
   dragOnCanvas({160, 60}, {160, 260});
   command(kCmdDelete);

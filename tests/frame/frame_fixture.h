@@ -67,8 +67,23 @@ class FrameTest : public testing::Test {
     frame().ProcessWindowEvent(event);
   }
 
-  // A left press on the canvas and a motion with the button down; no release. The frame must be
-  // shown: a window that isn't can't take the mouse.
+  // Shows the frame and waits until it is on the screen, which is up to the window manager: before
+  // that a window can't take the mouse.
+  void showFrame() {
+    frame().canvas().Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
+      painted_ = true;
+      event.Skip();
+    });
+    frame().Show();
+    for (int i = 0; i < 1000 && !painted_; ++i) {
+      wxTheApp->Yield();
+      wxMilliSleep(5);
+    }
+    EXPECT_TRUE(painted_);
+  }
+
+  // A left press on the canvas and a motion with the button down; no release. The frame must be on
+  // the screen.
   void dragOnCanvas(wxPoint from, wxPoint to) {
     mouseOnCanvas(wxEVT_LEFT_DOWN, from, true);
     mouseOnCanvas(wxEVT_MOTION, to, true);
@@ -107,6 +122,7 @@ class FrameTest : public testing::Test {
   MainFrame* frame_ = nullptr;
 
  private:
+  bool painted_ = false;
   wxAssertHandler_t previousHandler_ = nullptr;
 };
 

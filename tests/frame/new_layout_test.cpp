@@ -44,7 +44,7 @@ TEST_F(NewLayout, EmptiesTheDocumentButNotItsSettings) {
 TEST_F(NewLayout, InMidDragEndsTheDragSoThatTheEmptyLayoutStaysClean) {
   // Pressed at (100, 0) under the first view: pixel (60 + 40, 60).
   addPiece();
-  frame().Show();
+  showFrame();
   dragOnCanvas({100, 60}, {100, 160});
   EXPECT_TRUE(frame().canvas().state().selectionDrag.active);
   ModalScript script;
