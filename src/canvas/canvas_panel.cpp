@@ -13,6 +13,7 @@
 #include "canvas/autofill_dialog.h"
 #include "canvas/event_order.h"
 #include "canvas/gestures/deleting.h"
+#include "canvas/gestures/gesture_end.h"
 #include "canvas/gestures/helix_placement.h"
 #include "canvas/gestures/palette_drag.h"
 #include "canvas/gestures/polygon_draft.h"
@@ -148,7 +149,15 @@ void CanvasPanel::bindEvents() {
 
 void CanvasPanel::onPaint(wxPaintEvent&) {
   wxAutoBufferedPaintDC dc(this);
-  paintCanvas(context(), dc);
+  const CanvasContext canvas = context();
+  // A gesture that draws over the plan repaints with every motion: the plan is drawn once for it.
+  if (isPlanAtRest(state_)) {
+    keptPicture_.draw(canvas, dc, GetContentScaleFactor());
+  } else {
+    keptPicture_.forget();
+    paintStill(canvas, dc);
+  }
+  paintMoving(canvas, dc);
 }
 
 void CanvasPanel::onWheelEvent(wxMouseEvent& event) {

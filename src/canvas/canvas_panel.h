@@ -11,6 +11,7 @@
 
 #include "canvas/gestures/canvas_context.h"
 #include "canvas/gestures/pointer_event.h"
+#include "canvas/kept_picture.h"
 #include "render2d/text_extent.h"
 #include "workspace/workspace.h"
 
@@ -95,6 +96,7 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
   TextExtents textExtents_{.alikeDevices = true};
   CanvasState state_;
   wxTimer flashTimer_;
+  KeptPicture keptPicture_;
   // Space as told by key events: the state of a key can't be asked for on every display.
   bool spaceHeld_ = false;
 };

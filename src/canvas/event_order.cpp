@@ -152,9 +152,12 @@ constexpr KeyStep kKeys[] = {
 };
 constexpr KeyStep kCharacters[] = {zoomByCharacter};
 
-constexpr PaintStep kPaint[] = {
+// Bottom to top; what gestures draw over the plan comes last, so that the plan can be kept.
+constexpr PaintStep kPaintStill[] = {
     drawContents,
     drawRulerBands,
+};
+constexpr PaintStep kPaintMoving[] = {
     drawScaleHandles,
     showGradeRuns,
     drawRubberBand,
@@ -279,8 +282,17 @@ void onFlashTimer(CanvasContext& context) {
   endRotationFlash(context);
 }
 
+void paintStill(const CanvasContext& context, wxDC& dc) {
+  for (const PaintStep step : kPaintStill) step(context, dc);
+}
+
+void paintMoving(const CanvasContext& context, wxDC& dc) {
+  for (const PaintStep step : kPaintMoving) step(context, dc);
+}
+
 void paintCanvas(const CanvasContext& context, wxDC& dc) {
-  for (const PaintStep step : kPaint) step(context, dc);
+  paintStill(context, dc);
+  paintMoving(context, dc);
 }
 
 }  // namespace vantrel

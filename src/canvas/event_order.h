@@ -34,7 +34,10 @@ void onCaptureLost(CanvasContext& context);
 // The time that startFlashTimer asked for has passed.
 void onFlashTimer(CanvasContext& context);
 
-// One whole frame of the canvas, bottom to top.
+// One whole frame of the canvas, bottom to top: the plan and its rulers, then what gestures draw
+// over them.
+void paintStill(const CanvasContext& context, wxDC& dc);
+void paintMoving(const CanvasContext& context, wxDC& dc);
 void paintCanvas(const CanvasContext& context, wxDC& dc);
 
 }  // namespace vantrel

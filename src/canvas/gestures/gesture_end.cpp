@@ -13,4 +13,9 @@ bool isGestureActive(const CanvasState& state) {
   return isLeftGestureActive(state) || state.buttonPan.active;
 }
 
+bool isPlanAtRest(const CanvasState& state) {
+  return state.rubberBand.active || state.measureDraft.active || state.polygonDraft.active ||
+         state.paletteDrag.active || state.sceneryDrag.active || state.helixPlacement.active;
+}
+
 }  // namespace vantrel

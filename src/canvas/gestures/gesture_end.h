@@ -12,4 +12,7 @@ bool isLeftGestureActive(const CanvasState& state);
 // The same, or a pan with a button. What hangs at the pointer without a button doesn't count.
 bool isGestureActive(const CanvasState& state);
 
+// Whether a gesture is under way that only draws over the plan and changes nothing in it.
+bool isPlanAtRest(const CanvasState& state);
+
 }  // namespace vantrel
