@@ -16,6 +16,8 @@ constexpr int kGridReachMm = 3500;
 constexpr int kGridStepMm = 100;
 constexpr float kGridHeightMm = -0.5F;
 constexpr float kAxesHeightMm = -0.3F;
+// Of the depth range: a few of the smallest steps of a depth buffer of 24 bits.
+constexpr double kAxesNearer = 4e-7;
 
 constexpr float kSceneryHeightMm = -1.0F;
 constexpr float kArchBridgeHeightMm = -18.0F;
@@ -90,8 +92,11 @@ void Look(const Camera& camera, PaintSize size) {
   glTranslatef(camera.panX - camera.centreX, camera.panY - camera.centreY, 0.0F);
 }
 
+// The baseboard, of the same height and drawn later, has to cover the grid. Depths of a line and of
+// a surface come out differently, so the grid leaves none behind: nothing else lies below it.
 void DrawFloorGrid() {
   const PlainLines lines(1.0F);
+  glDepthMask(GL_FALSE);
   glColor3f(0.22F, 0.24F, 0.22F);
   glBegin(GL_LINES);
   constexpr auto reach = static_cast<float>(kGridReachMm);
@@ -103,10 +108,13 @@ void DrawFloorGrid() {
     glVertex3f(reach, at, kGridHeightMm);
   }
   glEnd();
+  glDepthMask(GL_TRUE);
 }
 
+// They lie a hair above the baseboard: too little for the depth buffer from farther away.
 void DrawAxes() {
   const PlainLines lines(2.0F);
+  glDepthRange(0.0, 1.0 - kAxesNearer);
   constexpr auto reach = static_cast<float>(kGridReachMm);
   glBegin(GL_LINES);
   glColor3f(0.45F, 0.18F, 0.18F);
@@ -116,6 +124,7 @@ void DrawAxes() {
   glVertex3f(-reach, 0.0F, kAxesHeightMm);
   glVertex3f(reach, 0.0F, kAxesHeightMm);
   glEnd();
+  glDepthRange(0.0, 1.0);
 }
 
 // The bridges of the scenery reach below the table's edge with their abutments.
