@@ -1,5 +1,7 @@
 #include "app/vantrel_app.h"
 
+#include <wx/utils.h>
+
 #include <cstdlib>
 #include <exception>
 
@@ -18,6 +20,10 @@ constexpr int kFailureExitCode = 1;
 
 VantrelApp::VantrelApp() {
   SetAppName("vantrel");
+#ifdef __WXGTK__
+  // The toolkit reaches OpenGL through X only; a Wayland desktop offers that too.
+  if (!wxGetEnv("GDK_BACKEND", nullptr)) wxSetEnv("GDK_BACKEND", "x11,wayland");
+#endif
 }
 
 // The inherited OnInit only reads the command line, and there is none to read.

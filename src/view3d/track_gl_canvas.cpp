@@ -1,6 +1,8 @@
 #include "view3d/track_gl_canvas.h"
 
 #include <wx/dcclient.h>
+#include <wx/debug.h>
+#include <wx/log.h>
 #include <wx/utils.h>
 
 #include <cmath>
@@ -30,6 +32,20 @@ wxGLContextAttrs ContextAttributes() {
   return attributes;
 }
 
+// Where there is no OpenGL the toolkit fails checks of its own, each with a dialog. We ask just to
+// hear a no.
+class QuietToolkit {
+ public:
+  QuietToolkit() : handler_(wxSetAssertHandler(nullptr)) {}
+  ~QuietToolkit() { wxSetAssertHandler(handler_); }
+  QuietToolkit(const QuietToolkit&) = delete;
+  QuietToolkit& operator=(const QuietToolkit&) = delete;
+
+ private:
+  wxAssertHandler_t handler_;
+  wxLogNull noLog_;
+};
+
 }  // namespace
 
 bool TrackGLCanvas::IsSupported() {
@@ -37,6 +53,7 @@ bool TrackGLCanvas::IsSupported() {
   // The toolkit reaches OpenGL through X here, and doesn't ask whether there is any.
   if (wxGetDisplayInfo().type != wxDisplayX11) return false;
 #endif
+  const QuietToolkit quiet;
   return IsDisplaySupported(DisplayAttributes());
 }
 
@@ -53,6 +70,7 @@ TrackGLCanvas::~TrackGLCanvas() {
 }
 
 void TrackGLCanvas::makeContext() {
+  const QuietToolkit quiet;
   const wxGLContextAttrs attributes = ContextAttributes();
   context_ = std::make_unique<wxGLContext>(this, nullptr, &attributes);
   // Old drivers can't be asked for a version, and give what they have.
