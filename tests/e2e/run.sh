@@ -15,6 +15,7 @@ fi
 . "$here/driver.sh"
 . "$here/tests.sh"
 . "$here/editing_tests.sh"
+. "$here/view3d_tests.sh"
 . "$here/levels_tests.sh"
 
 all_tests=$(declare -F | awk '{print $3}' | grep '^test_')
