@@ -15,6 +15,10 @@ namespace {
 // A depth of 16 bits, as the toolkit asks for by itself, can't tell track from the board under it.
 constexpr int kDepthBits = 24;
 
+// After the last change of a burst. The canvas, which paints within one frame of the screen, comes
+// first: a 3D frame can take a tenth of a second without a graphics card.
+constexpr int kSettleMs = 60;
+
 wxGLAttributes DisplayAttributes() {
   wxGLAttributes attributes;
   attributes.PlatformDefaults().RGBA().DoubleBuffer().Depth(kDepthBits).EndList();
@@ -96,6 +100,8 @@ void TrackGLCanvas::bindEvents() {
   Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { onRelease(); });
   Bind(wxEVT_MOTION, &TrackGLCanvas::onMotion, this);
   Bind(wxEVT_MOUSEWHEEL, &TrackGLCanvas::onWheel, this);
+  settled_.SetOwner(this);
+  Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Refresh(); });
   Bind(wxEVT_KEY_DOWN, &TrackGLCanvas::onKey, this);
 }
 
@@ -107,7 +113,7 @@ void TrackGLCanvas::build(const vantrel::Layout& layout) {
 
 void TrackGLCanvas::Rebuild(const vantrel::Layout& layout) {
   changed_ = &layout;
-  Refresh();
+  settled_.StartOnce(kSettleMs);
 }
 
 void TrackGLCanvas::onPaint() {

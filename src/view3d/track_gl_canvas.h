@@ -2,6 +2,7 @@
 #pragma once
 
 #include <wx/glcanvas.h>
+#include <wx/timer.h>
 
 #include <memory>
 
@@ -25,8 +26,8 @@ class TrackGLCanvas : public wxGLCanvas {
   // A context came with the canvas. Without one it stays blank.
   bool hasContext() const;
 
-  // The layout changed. The scene is built anew before the next paint, however many changes have
-  // come until then, and the layout must live until then.
+  // The layout changed. The scene is built anew and painted once a burst of changes is over, or
+  // before an earlier paint, and the layout must live until then.
   void Rebuild(const vantrel::Layout& layout);
 
   const Scene& scene() const { return scene_; }
@@ -49,6 +50,7 @@ class TrackGLCanvas : public wxGLCanvas {
   bool glReady_ = false;
   Scene scene_;
   Camera camera_;
+  wxTimer settled_;                           // no change has come for a while
   const vantrel::Layout* changed_ = nullptr;  // what the next paint builds from
   wxPoint lastMouse_;
   bool leftDown_ = false;

@@ -118,7 +118,7 @@ test_the_3d_view_is_one_and_comes_to_the_front() {
 }
 
 test_edits_show_in_the_open_3d_view() {
-  local empty one two new
+  local empty one two dragged new
   find_palette || return 1
   open_view || return 1
   empty=$(view_shot view3d_empty)
@@ -140,11 +140,25 @@ test_edits_show_in_the_open_3d_view() {
   xdotool windowactivate --sync "$main"
   key ctrl+y
   expect "redone" "$two" "$(view_shot view3d_redone)" || return 1
+  # A drag on the canvas goes on beside the window, and shows there once it has ended.
+  # The press after an extension does nothing: the first one is for it.
+  at 1000 900
+  click
+  at 660 420
+  press
+  at 800 600
+  at 900 700
+  picture view3d_beside_a_drag
+  release
+  settle
+  dragged=$(view_shot view3d_dragged)
+  differs "a piece dragged" "$two" "$dragged" || return 1
+  xdotool windowactivate --sync "$main"
   save_as Two || return 1
   xdotool windowactivate --sync "$main"
   key ctrl+n
   new=$(view_shot view3d_new)
-  differs "a new layout" "$two" "$new" || return 1
+  differs "a new layout" "$dragged" "$new" || return 1
   xdotool windowactivate --sync "$main"
   open_plan || return 1
   differs "a layout opened" "$new" "$(view_shot view3d_opened)" || return 1
