@@ -17,6 +17,7 @@ fi
 . "$here/editing_tests.sh"
 . "$here/view3d_tests.sh"
 . "$here/levels_tests.sh"
+. "$here/panel_tests.sh"
 
 all_tests=$(declare -F | awk '{print $3}' | grep '^test_')
 passed=0
