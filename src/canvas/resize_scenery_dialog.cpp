@@ -24,11 +24,17 @@ std::string Whole(double mm) {
   return FormatFixed(mm, 0);
 }
 
+// A spin rounds what it is given to the digits that it shows.
+double Kept(double value, double shown, double start) {
+  return value == shown && start >= kSmallest && start <= kLargest ? start : value;
+}
+
 }  // namespace
 
 ResizeSceneryDialog::ResizeSceneryDialog(wxWindow* parent, SceneryFootprint size,
                                          SceneryScale scale)
     : wxDialog(parent, wxID_ANY, "Resize Scenery"),
+      start_(scale),
       startRatio_(scale.y > 0.0 ? scale.x / scale.y : 1.0) {
   auto* const column = new wxBoxSizer(wxVERTICAL);
   const std::string sizes = "Catalog size: " + Whole(size.width) + " x " + Whole(size.depth) +
@@ -37,6 +43,7 @@ ResizeSceneryDialog::ResizeSceneryDialog(wxWindow* parent, SceneryFootprint size
   column->Add(new wxStaticText(this, wxID_ANY, wxString::FromUTF8(sizes)), 0, wxALL, kMargin);
   width_ = addRow(*column, "Width scale:", scale.x, size.width * scale.x);
   depth_ = addRow(*column, "Depth scale:", scale.y, size.depth * scale.y);
+  shown_ = {.x = width_->GetValue(), .y = depth_->GetValue()};
   locked_ = new wxCheckBox(this, wxID_ANY, "Lock aspect ratio");
   locked_->SetValue(true);
   column->Add(locked_, 0, wxALL, kMargin);
@@ -82,7 +89,8 @@ void ResizeSceneryDialog::onWidth(wxSpinDoubleEvent& event) {
 
 SceneryScale ResizeSceneryDialog::scale() const {
   if (GetReturnCode() == wxID_RESET) return {};
-  return {.x = width_->GetValue(), .y = depth_->GetValue()};
+  return {.x = Kept(width_->GetValue(), shown_.x, start_.x),
+          .y = Kept(depth_->GetValue(), shown_.y, start_.y)};
 }
 
 }  // namespace vantrel

@@ -151,6 +151,21 @@ TEST_F(SmallDialogs, ALockedWidthTakesTheDepthAlongByTheStartsRatioAndNotTheOthe
   EXPECT_EQ(dialog.scale(), (SceneryScale{1.0, 4.0}));
 }
 
+TEST_F(SmallDialogs, AFactorThatIsNotTouchedKeepsItsLastDigit) {
+  // As a handle leaves them: 270 / 230 and 70 / 60.
+  const SceneryScale pulled{270.0 / 230.0, 70.0 / 60.0};
+  ResizeSceneryDialog dialog(frame, {.width = 230.0, .depth = 60.0}, pulled);
+  EXPECT_EQ(dialog.scale(), pulled);
+  const auto spins = all<wxSpinCtrlDouble>(dialog);
+  spins[1]->SetValue(2.0);
+  EXPECT_EQ(dialog.scale(), (SceneryScale{270.0 / 230.0, 2.0}));
+}
+
+TEST_F(SmallDialogs, AFactorOutsideTheSpinsRangeBecomesWhatTheSpinShows) {
+  const ResizeSceneryDialog dialog(frame, {.width = 230.0, .depth = 60.0}, {.x = 12.0, .y = 0.05});
+  EXPECT_EQ(dialog.scale(), (SceneryScale{10.0, 0.1}));
+}
+
 TEST_F(SmallDialogs, ResetGivesTheCatalogsSize) {
   ResizeSceneryDialog dialog(frame, {.width = 300.0, .depth = 60.0}, {.x = 2.0, .y = 3.0});
   dialog.SetReturnCode(wxID_RESET);
