@@ -116,6 +116,32 @@ TEST_F(AnnotationMoves, ShiftOnADecksEdgeMovesItsOutlineAsOneStep) {
   EXPECT_FALSE(host.captured);
 }
 
+TEST_F(AnnotationMoves, UndoAfterADeckDragLeavesTheDeckWhereItIs) {
+  layout.levels = {Level{}};
+  layout.levels[0].outline = {{100.0, 100.0}, {500.0, 100.0}, {500.0, 400.0}};
+  held.mods.shift = true;
+  dragLeft(300, 100, 310, 150);
+  Undo(layout);
+  EXPECT_EQ(layout.levels[0].outline[0], (Vec2{110.0, 150.0}));
+}
+
+TEST_F(AnnotationMoves, ShiftWithCtrlOnADecksEdgePansInstead) {
+  layout.levels = {Level{}};
+  layout.levels[0].outline = {{100.0, 100.0}, {500.0, 100.0}, {500.0, 400.0}};
+  held.mods = {.ctrl = true, .shift = true};
+  pressLeft(300, 100);
+  EXPECT_FALSE(state.deckDrag.active);
+  EXPECT_TRUE(state.buttonPan.active);
+}
+
+TEST_F(AnnotationMoves, OfTwoLabelsUnderThePointerTheFirstInTheListIsTaken) {
+  layLabel({100.0, 100.0});
+  layLabel({105.0, 105.0});
+  pressLeft(110, 110);
+  EXPECT_TRUE(layout.labels[0].sel);
+  EXPECT_FALSE(layout.labels[1].sel);
+}
+
 TEST_F(AnnotationMoves, ALabelIsSelectedBesideTrackAndMovesWithoutAnUndoStep) {
   const std::int32_t track = lay("24188", {600.0, 600.0, 0.0});
   select({track});

@@ -98,6 +98,14 @@ class InterruptedGesture
     layout.scenery[0].sel = true;
     drag(static_cast<int>(500.0 + halfPlatform), 1000);
   }
+  void tapeDraft() {
+    layout.toolMode = kMeasureTool;
+    clickLeft(1500, 500);
+    move(1540, 510);
+  }
+  // Ready to be closed: the pointer is near the first vertex.
+  void polygonDraft() { draftOutline(kPolygonTool); }
+  void baseboardDraft() { draftOutline(kBaseboardTool); }
 
   // What comes between.
   void escape() { key(WXK_ESCAPE); }
@@ -176,6 +184,15 @@ class InterruptedGesture
     move(x + 40, y + 10);
   }
 
+  void draftOutline(std::int32_t tool) {
+    layout.toolMode = tool;
+    clickLeft(1500, 500);
+    clickLeft(1900, 500);
+    clickLeft(1900, 800);
+    move(1504, 503);
+    EXPECT_TRUE(state.polygonDraft.closeHover);
+  }
+
   // The user's hands go back to rest; what still hangs at the pointer is put away.
   void letGo() {
     move(400, 140);
@@ -186,6 +203,11 @@ class InterruptedGesture
     held = {};
     move(420, 160);
     cancelPaletteDrag(context);
+    paint();
+    if (layout.toolMode != kNoTool) key(WXK_ESCAPE);
+    EXPECT_EQ(layout.toolMode, kNoTool);
+    EXPECT_FALSE(state.measureDraft.active);
+    EXPECT_FALSE(state.polygonDraft.active);
     if (state.swallowNextClick) clickLeft(7000, 7000);
   }
 
@@ -239,6 +261,9 @@ const GestureCase kGestures[] = {
     {"ShapeMove", &InterruptedGesture::shape, VANTREL_IN(shapeMove)},
     {"AltRotate", &InterruptedGesture::rotate, VANTREL_IN(altRotate)},
     {"SceneryResize", &InterruptedGesture::resize, VANTREL_IN(sceneryResize)},
+    {"MeasureDraft", &InterruptedGesture::tapeDraft, VANTREL_IN(measureDraft)},
+    {"PolygonDraft", &InterruptedGesture::polygonDraft, VANTREL_IN(polygonDraft)},
+    {"BaseboardDraft", &InterruptedGesture::baseboardDraft, VANTREL_IN(polygonDraft)},
 };
 
 #undef VANTREL_IN

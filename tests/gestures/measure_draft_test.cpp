@@ -53,6 +53,37 @@ TEST_F(MeasureDrafts, ATapeOfExactlyOneMillimetreIsLaid) {
   EXPECT_EQ(layout.measurements.size(), 1u);
 }
 
+TEST_F(MeasureDrafts, ATooShortTapeLeavesItsUndoStepAndIsMarkedAsAChange) {
+  state.view.scale = 2.0;
+  clickLeft(100, 100);
+  clickLeft(101, 100);
+  EXPECT_EQ(layout.undoHistory.size(), 1u);
+  EXPECT_EQ(host.dirtyMarks, 1);
+  EXPECT_EQ(host.endedTools, std::vector<std::int32_t>{3});
+  EXPECT_EQ(host.cursor(), CanvasCursor::normal);
+}
+
+TEST_F(MeasureDrafts, WhileArmedEveryMotionShowsTheCrossAndNothingElseMoves) {
+  const std::int32_t id = lay("24188", {100.0, 100.0, 0.0});
+  pressMiddle(150, 100);
+  EXPECT_TRUE(move(350, 300));
+  EXPECT_EQ(host.cursor(), CanvasCursor::cross);
+  EXPECT_EQ(state.view.offsetX, 0.0);
+  EXPECT_EQ(piece(id).x, 100.0);
+  EXPECT_FALSE(state.measureDraft.active);
+}
+
+TEST_F(MeasureDrafts, TakenUpAgainTheFrozenDraftGoesOnFromItsStart) {
+  clickLeft(100, 100);
+  layout.toolMode = kNoTool;
+  move(300, 300);
+  layout.toolMode = kMeasureTool;
+  clickLeft(500, 100);
+  ASSERT_EQ(layout.measurements.size(), 1u);
+  EXPECT_EQ(layout.measurements[0].startX, 100.0);
+  EXPECT_EQ(layout.measurements[0].endX, 500.0);
+}
+
 TEST_F(MeasureDrafts, TheSecondOfTwoQuickPressesCounts) {
   lay("24188", {50.0, 100.0, 0.0});
   clickLeft(100, 100);

@@ -105,6 +105,37 @@ TEST_F(PolygonDrafts, BackspaceBelowThreeVerticesTakesTheClosingAway) {
   EXPECT_FALSE(state.polygonDraft.closeHover);
 }
 
+TEST_F(PolygonDrafts, BeforeTheFirstVertexOnlyEscapeIsTaken) {
+  for (const int code : {WXK_BACK, WXK_RETURN, WXK_NUMPAD_ENTER}) EXPECT_FALSE(key(code));
+  EXPECT_TRUE(move(300, 300));
+  EXPECT_EQ(host.cursor(), CanvasCursor::cross);
+  EXPECT_TRUE(key(WXK_ESCAPE));
+  EXPECT_EQ(layout.toolMode, kNoTool);
+}
+
+TEST_F(PolygonDrafts, WithoutAVisibleLevelThePolygonStandsOnTheActiveOne) {
+  Level hidden;
+  hidden.id = 6;
+  hidden.visible = false;
+  layout.levels = {hidden};
+  layout.activeLevel = 9;
+  clickTriangle();
+  key(WXK_RETURN);
+  ASSERT_EQ(layout.shapes.size(), 1u);
+  EXPECT_EQ(layout.shapes[0].level, 9);
+}
+
+TEST_F(PolygonDrafts, PutAwayInBetweenTheDraftIsHiddenAndGoesOnLater) {
+  clickTriangle();
+  layout.toolMode = kNoTool;
+  for (const DrawCall& call : paint()->calls())
+    EXPECT_NE(call.pen.colour, (Rgba{40, 80, 200, 255}));
+  layout.toolMode = kPolygonTool;
+  key(WXK_RETURN);
+  ASSERT_EQ(layout.shapes.size(), 1u);
+  EXPECT_EQ(layout.shapes[0].vertices, kTriangle);
+}
+
 TEST_F(PolygonDrafts, EscapeEndsDraftAndToolWithoutATrace) {
   clickTriangle();
   EXPECT_TRUE(key(WXK_ESCAPE));

@@ -7,6 +7,7 @@
 
 #include "canvas/gestures/scenery_drag.h"
 #include "catalog/scenery_catalog.h"
+#include "doc/undo.h"
 #include "tests/gestures/editing_driver.h"
 
 namespace vantrel {
@@ -131,7 +132,47 @@ TEST_F(ScaleHandles, WhenTheItemVanishesTheGestureEndsAndGivesTheMouseBack) {
   EXPECT_FALSE(host.captured);
 }
 
-TEST_F(ScaleHandles, ItemsOfOtherCategoriesAndSeveralItemsHaveNone) {
+TEST_F(ScaleHandles, EachHandlePullsItsOwnSidesAndTheOppositeOneStays) {
+  // 230 by 60 around (500, 400): pulled out by 46 to the side and by 30 up or down, the factors
+  // become 276 / 230 = 1.2 and 90 / 60 = 1.5, and the middle moves by 23 and by 15.
+  struct Pull {
+    DevicePoint from;
+    DevicePoint to;
+    Vec2 factors;
+    Vec2 middle;
+  };
+  const Pull pulls[] = {{{385, 370}, {339, 340}, {1.2, 1.5}, {477, 385}},
+                        {{500, 370}, {454, 340}, {1.0, 1.5}, {500, 385}},
+                        {{615, 370}, {661, 340}, {1.2, 1.5}, {523, 385}},
+                        {{615, 400}, {661, 370}, {1.2, 1.0}, {523, 400}},
+                        {{615, 430}, {661, 460}, {1.2, 1.5}, {523, 415}},
+                        {{500, 430}, {546, 460}, {1.0, 1.5}, {500, 415}},
+                        {{385, 430}, {339, 460}, {1.2, 1.5}, {477, 415}},
+                        {{385, 400}, {339, 430}, {1.2, 1.0}, {477, 400}}};
+  for (const Pull& pull : pulls) {
+    dragLeft(pull.from.x, pull.from.y, pull.to.x, pull.to.y);
+    EXPECT_NEAR(item().scalex, pull.factors.x, 1e-9);
+    EXPECT_NEAR(item().scaley, pull.factors.y, 1e-9);
+    EXPECT_NEAR(item().x, pull.middle.x, 1e-9);
+    EXPECT_NEAR(item().y, pull.middle.y, 1e-9);
+    Undo(layout);
+    EXPECT_EQ(item().x, 500.0);
+  }
+}
+
+TEST_F(ScaleHandles, ItemsOfAnotherCategoryHaveNone) {
+  layout.gridVisible = false;
+  layout.scenery.clear();
+  layScenery("car", {500.0, 400.0, 0.0});
+  item().sel = true;
+  const SceneryDef& car = *findScenery("car");
+  for (const DrawCall& call : paint()->calls())
+    EXPECT_NE(call.pen.colour, (Rgba{40, 90, 200, 255}));
+  pressLeft(static_cast<int>(500.0 + car.width / 2.0), 400);
+  EXPECT_FALSE(state.sceneryResize.active);
+}
+
+TEST_F(ScaleHandles, SeveralItemsHaveNone) {
   layScenery("platform", {500.0, 900.0, 0.0});
   layout.scenery[1].sel = true;
   pressLeft(right(), 400);
