@@ -132,11 +132,14 @@ void MainFrame::onTool(wxCommandEvent& event) {
 
 void MainFrame::switchTool(int id, bool on) {
   const bool measuring = id == kCmdMeasure;
+  // The baseboard's hint doesn't outlive its tool.
+  if (layout_.toolMode == kBaseboardTool) setStatus(kStatusMessage, "");
   if (on) {
     layout_.toolMode = measuring ? kMeasureTool : kPolygonTool;
     ClearSelection(layout_);
     selectionChanged();
     GetToolBar()->ToggleTool(measuring ? kCmdPolygon : kCmdMeasure, false);
+    canvas_->SetFocus();  // for Escape, before the first click
   } else {
     layout_.toolMode = kNoTool;
   }

@@ -66,6 +66,17 @@ TEST_F(CommandHandlers, AToolClearsTheSelectionWhenItIsChosenAndOnlyThen) {
   EXPECT_TRUE(plan().pieces[0].sel);
 }
 
+TEST_F(CommandHandlers, AToolThatTakesOverFromTheBaseboardsDrawingTakesItsHintAway) {
+  plan().toolMode = 5;
+  frame().setStatus(kStatusMessage, "Click vertices");
+  toggle(2013, true);
+  EXPECT_EQ(plan().toolMode, 3);
+  EXPECT_EQ(statusText(kStatusMessage), "");
+  frame().setStatus(kStatusMessage, "[ELEV]");
+  toggle(2013, false);
+  EXPECT_EQ(statusText(kStatusMessage), "[ELEV]");
+}
+
 TEST_F(CommandHandlers, UndoOnAnEmptyHistoryIsRefusedByTheMenuAndByTheOperation) {
   addPiece();
   updateStates();
