@@ -18,6 +18,7 @@ fi
 . "$here/view3d_tests.sh"
 . "$here/levels_tests.sh"
 . "$here/panel_tests.sh"
+. "$here/annotation_tests.sh"
 
 all_tests=$(declare -F | awk '{print $3}' | grep '^test_')
 passed=0
