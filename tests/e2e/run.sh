@@ -19,6 +19,7 @@ fi
 . "$here/levels_tests.sh"
 . "$here/panel_tests.sh"
 . "$here/annotation_tests.sh"
+. "$here/filling_tests.sh"
 
 all_tests=$(declare -F | awk '{print $3}' | grep '^test_')
 passed=0
