@@ -56,7 +56,7 @@ joints() {
     paste -sd,
 }
 
-# press_place, choose_row N: in that dialog, at its bottom right and at the Nth line of its list.
+# press_place, double_click_row N: in that dialog, at its bottom right and on the Nth line of its list.
 press_place() {
   local WIDTH HEIGHT X Y
   eval "$(xdotool getwindowgeometry --shell "$dialog" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
@@ -184,12 +184,25 @@ test_a_gap_between_two_systems_is_refused_and_stays_selected() {
 }
 
 # toolbar_shot NAME: the screen above the canvas, the tools; kept in the scratch folder.
-toolbar_shot() { import -window root -crop "1600x$((canvas_y - 4))+0+60" +repage "$store/$1.png"; }
+toolbar_shot() { import -window root -crop "1600x$((canvas_y - 64))+0+60" +repage "$store/$1.png"; }
 
 # changed_tool: the middle of what differs between the shots "before" and "after".
 changed_tool() {
   convert "$store/before.png" "$store/after.png" -compose difference -composite -threshold 5% \
     -format '%@' info: | awk -F'[x+]' '{print int($3 + $1 / 2), int($4 + $2 / 2) + 60}'
+}
+
+# portal N FILE: its id and pose.
+portal() {
+  local line
+  line=$(grep 'item="tunnel_portal_single"' "$2" | sed -n "$1p")
+  sed -n 's/.* id="\([^"]*\)".*/\1/p' <<<"$line" | tr '\n' ' '
+  sed -n 's/.* x="\([^"]*\)" y="\([^"]*\)" heading="\([^"]*\)".*/\1 \2 \3/p' <<<"$line"
+}
+
+# tools_differ A B: whether two such shots differ.
+tools_differ() {
+  [ "$(compare -metric AE "$store/$1.png" "$store/$2.png" null: 2>&1)" != 0 ]
 }
 
 test_a_tunnel_over_three_pieces_is_laid_and_removed_by_its_tool() {
@@ -216,6 +229,8 @@ test_a_tunnel_over_three_pieces_is_laid_and_removed_by_its_tool() {
   move $((canvas_x + 400)) $((canvas_y + 400))
   settle
   picture tunnel_laid
+  toolbar_shot removing
+  tools_differ after removing || { problem="the tool's label doesn't change"; return 1; }
   [ -n "$(pixels "$selected_bed")" ] || { problem="the track isn't selected any more"; return 1; }
   save_as Tunnel || return 1
   expect "pieces" 3 "$(piece_count "$plan")" || return 1
@@ -241,6 +256,10 @@ test_a_tunnel_over_three_pieces_is_laid_and_removed_by_its_tool() {
   picture remove_tunnel
   click
   settle
+  at 850 850
+  settle
+  toolbar_shot removed
+  ! tools_differ after removed || { problem="the tool's label doesn't come back"; return 1; }
   key ctrl+s
   expect "pieces after removing" 3 "$(piece_count "$plan")" || return 1
   expect "tunnels after removing" 0 "$(grep -c '<tunnel ' "$plan")" || return 1
@@ -249,14 +268,6 @@ test_a_tunnel_over_three_pieces_is_laid_and_removed_by_its_tool() {
   key ctrl+s
   expect "tunnels after Undo" 1 "$(grep -c '<tunnel ' "$plan")" || return 1
   expect "portals after Undo" 2 "$(grep -c 'tunnel_portal_single' "$plan")" || return 1
-}
-
-# portal N FILE: its id and pose.
-portal() {
-  local line
-  line=$(grep 'item="tunnel_portal_single"' "$2" | sed -n "$1p")
-  sed -n 's/.* id="\([^"]*\)".*/\1/p' <<<"${line/<item/<item }" | tr '\n' ' '
-  sed -n 's/.* x="\([^"]*\)" y="\([^"]*\)" heading="\([^"]*\)".*/\1 \2 \3/p' <<<"$line"
 }
 
 # show_helix_rows: scrolls the palette to its end and sets point_x, point_y to the middle of the
@@ -303,6 +314,8 @@ test_a_helix_is_dragged_in_moved_by_a_ring_and_deleted() {
   at 165 600
   press
   at 215 650
+  at 265 700
+  at 270 700
   at 265 700
   picture helix_moving
   release
