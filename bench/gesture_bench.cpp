@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <vector>
 
+#include "bench/yards.h"
 #include "canvas/event_order.h"
 #include "canvas/gestures/deleting.h"
-#include "catalog/track_catalog.h"
 #include "doc/layout.h"
 #include "tests/support/recording_host.h"
 
@@ -16,37 +16,16 @@ namespace {
 
 constexpr int kLines = 50;
 constexpr int kPiecesPerLine = 100;
-constexpr double kLineSpacingMm = 77.5;
-constexpr const char* kParts[] = {"24188", "24172", "24612", "24094", "24188", "24360", "24640"};
 
-// Parallel lines of straights, turnouts and crossings, joined end to end: what is open are the ends
-// of the lines and the branches. The first `selected` pieces are selected.
-Layout JoinedYard(int selected) {
-  Layout layout;
-  std::int32_t id = 1;
-  for (int line = 0; line < kLines; ++line) {
-    double x = 0.0;
-    for (int i = 0; i < kPiecesPerLine; ++i, ++id) {
-      const PieceDef& def = *findPart(kParts[static_cast<std::size_t>(id) % std::size(kParts)]);
-      Piece piece;
-      piece.id = id;
-      piece.cat = def.partNumber;
-      piece.x = x;
-      piece.y = line * kLineSpacingMm;
-      piece.sel = id <= selected;
-      piece.joints.resize(def.connectors.size());
-      if (i > 0) piece.joints[0] = {.target = id - 1, .tconn = 1};
-      if (i + 1 < kPiecesPerLine) piece.joints[1] = {.target = id + 1, .tconn = 0};
-      layout.pieces.push_back(piece);
-      x += def.connectors[1].x;
-    }
-  }
-  layout.nextId = id;
+// The first `selected` pieces of the yard are selected.
+Layout YardWith(int selected) {
+  Layout layout = JoinedYard(kLines, kPiecesPerLine);
+  for (Piece& piece : layout.pieces) piece.sel = piece.id <= selected;
   return layout;
 }
 
 struct Editor {
-  explicit Editor(int selected) : layout(JoinedYard(selected)) {
+  explicit Editor(int selected) : layout(YardWith(selected)) {
     state.view = {.scale = 1.0, .offsetX = 0.0, .offsetY = 0.0};
   }
 
@@ -69,7 +48,7 @@ constexpr int kOnTrackX = 90;
 constexpr int kOnTrackY = 2;
 
 void OneCopyOfThePieces(benchmark::State& state) {
-  const Layout layout = JoinedYard(0);
+  const Layout layout = YardWith(0);
   for (auto _ : state) {
     std::vector<Piece> copy = layout.pieces;
     benchmark::DoNotOptimize(copy.data());

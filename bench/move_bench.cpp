@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "bench/yards.h"
 #include "canvas/operations/joining.h"
 #include "canvas/operations/moving.h"
 #include "canvas/operations/rotating.h"
@@ -21,53 +22,31 @@ constexpr int kLines = 50;
 constexpr int kPiecesPerLine = 100;
 constexpr int kSelectedFrom = 40;  // in each line
 constexpr int kSelectedTo = 60;
-constexpr double kLineSpacingMm = 77.5;
-
-constexpr const char* kParts[] = {"24188", "24172", "24612", "24094", "24188", "24360", "24640"};
 
 bool InBlock(int i) {
   return i >= kSelectedFrom && i < kSelectedTo;
 }
 
-// Parallel lines of straights, turnouts and crossings, joined end to end; a band across all of them
-// is selected.
-Layout JoinedYard() {
-  Layout layout;
-  std::int32_t id = 1;
-  for (int line = 0; line < kLines; ++line) {
-    double x = 0.0;
-    for (int i = 0; i < kPiecesPerLine; ++i, ++id) {
-      const PieceDef& def = *findPart(kParts[static_cast<std::size_t>(id) % std::size(kParts)]);
-      Piece piece;
-      piece.id = id;
-      piece.cat = def.partNumber;
-      piece.x = x;
-      piece.y = line * kLineSpacingMm;
-      piece.sel = InBlock(i);
-      piece.joints.resize(def.connectors.size());
-      if (i > 0) piece.joints[0] = {.target = id - 1, .tconn = 1};
-      if (i + 1 < kPiecesPerLine) piece.joints[1] = {.target = id + 1, .tconn = 0};
-      layout.pieces.push_back(piece);
-      x += def.connectors[1].x;
-    }
-  }
+// A band across all lines is selected; two levels, one of them hidden.
+Layout WithBlock(Layout layout) {
+  for (Piece& piece : layout.pieces) piece.sel = InBlock((piece.id - 1) % kPiecesPerLine);
   layout.levels.resize(2);
   layout.levels[1].id = 2;
   layout.levels[1].visible = false;
   return layout;
 }
 
-// The same pieces, none of them joined.
-Layout OpenYard() {
-  Layout layout = JoinedYard();
-  for (Piece& piece : layout.pieces)
-    for (Joint& joint : piece.joints) joint = Joint{};
-  return layout;
+Layout JoinedBlock() {
+  return WithBlock(JoinedYard(kLines, kPiecesPerLine));
+}
+
+Layout OpenBlock() {
+  return WithBlock(OpenYard(kLines, kPiecesPerLine));
 }
 
 // The worst that can be: every piece open, and all of them in a heap of 150 mm.
 Layout Heap() {
-  Layout layout = OpenYard();
+  Layout layout = OpenBlock();
   for (Piece& piece : layout.pieces) {
     piece.x = std::fmod(piece.x, 150.0);
     piece.y = std::fmod(piece.y, 150.0);
@@ -92,7 +71,7 @@ Layout Comb() {
   };
   for (int i = 0; i < 1000; ++i) {
     const double x = 1200.0 * (i % 25);
-    const double y = kLineSpacingMm * (i / 25);
+    const double y = kYardLineSpacingMm * (i / 25);
     lay(x - 188.3, y, false);
     lay(x, y, true);
     lay(x + 188.3, y, false);
@@ -118,7 +97,7 @@ Dragged MakeDragged() {
 }
 
 void OnlyCopyThePoses(benchmark::State& state) {
-  Dragged dragged = MakeDragged<JoinedYard>();
+  Dragged dragged = MakeDragged<JoinedBlock>();
   for (auto _ : state) {
     moveSelection(dragged.layout, dragged.start, {5.0, 3.0});
     benchmark::ClobberMemory();
@@ -127,7 +106,7 @@ void OnlyCopyThePoses(benchmark::State& state) {
 BENCHMARK(OnlyCopyThePoses)->Unit(benchmark::kMicrosecond);
 
 void SearchForASinglePiece(benchmark::State& state) {
-  const Dragged dragged = MakeDragged<JoinedYard>();
+  const Dragged dragged = MakeDragged<JoinedBlock>();
   const Piece& moving = dragged.layout.pieces[kSelectedFrom];
   const PieceDef& def = *findPart(moving.cat);
   for (auto _ : state) {
@@ -146,13 +125,13 @@ void OneMotion(benchmark::State& state) {
     benchmark::DoNotOptimize(findBlockSnap(dragged.layout));
   }
 }
-BENCHMARK(OneMotion<JoinedYard>)->Unit(benchmark::kMicrosecond);
-BENCHMARK(OneMotion<OpenYard>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(OneMotion<JoinedBlock>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(OneMotion<OpenBlock>)->Unit(benchmark::kMicrosecond);
 BENCHMARK(OneMotion<Comb>)->Unit(benchmark::kMicrosecond);
 BENCHMARK(OneMotion<Heap>)->Unit(benchmark::kMicrosecond);
 
 void CopyThePieces(benchmark::State& state) {
-  const Layout layout = JoinedYard();
+  const Layout layout = JoinedBlock();
   for (auto _ : state) {
     std::vector<Piece> copy = layout.pieces;
     benchmark::DoNotOptimize(copy);
@@ -161,7 +140,7 @@ void CopyThePieces(benchmark::State& state) {
 BENCHMARK(CopyThePieces)->Unit(benchmark::kMicrosecond);
 
 void BreakTheEdge(benchmark::State& state) {
-  const Layout plan = JoinedYard();
+  const Layout plan = JoinedBlock();
   for (auto _ : state) {
     state.PauseTiming();
     Layout layout = plan;
@@ -191,12 +170,12 @@ void Drop(benchmark::State& state) {
   }
   state.counters["snapped"] = held.snap.found ? 1 : 0;
 }
-BENCHMARK(Drop<JoinedYard>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Drop<JoinedBlock>)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Drop<Comb>)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Drop<Heap>)->Unit(benchmark::kMicrosecond);
 
 void TurnOneStep(benchmark::State& state) {
-  Layout layout = JoinedYard();
+  Layout layout = JoinedBlock();
   const std::vector<Pose> start = selectionPoses(layout);
   const Vec2 pivot = selectionMean(layout);
   for (auto _ : state) {
