@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # End-to-end tests: the built program under a virtual display of its own, driven from outside by real
 # mouse and key events, its files read afterwards.
-# usage: run.sh PROGRAM OUTPUT-FOLDER [TEST...]
+# usage: run.sh PROGRAM OUTPUT-FOLDER [TEST|FILE...]    a FILE of this folder stands for its tests
 set -uo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 program=$(realpath "$1")
@@ -13,18 +13,28 @@ if [ "${VANTREL_E2E_DISPLAY:-}" != yes ]; then
     "${BASH_SOURCE[0]}" "$program" "$output" "$@"
 fi
 . "$here/driver.sh"
-. "$here/tests.sh"
-. "$here/editing_tests.sh"
-. "$here/view3d_tests.sh"
-. "$here/levels_tests.sh"
-. "$here/panel_tests.sh"
-. "$here/annotation_tests.sh"
-. "$here/filling_tests.sh"
+for file in "$here"/*_tests.sh; do
+  # shellcheck source=/dev/null
+  . "$file"
+done
 
-all_tests=$(declare -F | awk '{print $3}' | grep '^test_')
+# tests_of NAME...: the tests of each file named, and every other name as it is.
+tests_of() {
+  local name
+  for name in "$@"; do
+    if [ -f "$here/$name" ]; then
+      sed -n 's/^\(test_[a-z0-9_]*\)().*/\1/p' "$here/$name"
+    else
+      echo "$name"
+    fi
+  done
+}
+
+[ $# -gt 0 ] || set -- $(cd "$here" && ls -- *_tests.sh)
 passed=0
 failed=0
-for test in ${*:-$all_tests}; do
+# shellcheck disable=SC2046
+for test in $(tests_of "$@"); do
   start_program
   problem=
   if "$test" && [ -z "$problem" ]; then
