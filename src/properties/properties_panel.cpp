@@ -214,7 +214,10 @@ void PropertiesPanel::chooseLevel() {
   const int row = levelChoice_->GetSelection();
   if (row == wxNOT_FOUND) return;
   const std::int32_t level = IdFrom(levelChoice_->GetClientData(static_cast<unsigned>(row)));
-  if (!ChooseLevel(workspace_.layout(), page_, level)) return;
+  if (!ChooseLevel(workspace_.layout(), page_, level)) {
+    showSelection(Typed::keep);  // the list shows the level that it still is
+    return;
+  }
   workspace_.markDirty();
   showSelection(Typed::replace);
   workspace_.refreshViews();

@@ -34,6 +34,7 @@ TallyList::TallyList(wxWindow* parent)
   SetMinSize(wxSize(kPieceWidth + kCountWidth, kListHeight));
   AppendColumn("Piece", wxLIST_FORMAT_LEFT, kPieceWidth);
   AppendColumn("Count", wxLIST_FORMAT_RIGHT, kCountWidth);
+  SetFont(GetFont().Smaller());  // those of usual curves are too long for the panel otherwise
   heading_.SetFont(GetFont().Bold());
   heading_.SetTextColour(wxColour(60, 60, 160));
   Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {

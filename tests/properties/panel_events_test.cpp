@@ -82,6 +82,20 @@ TEST_F(PanelEvents, ChoosingMixedDoesNothingAndALevelMakesItGo) {
   EXPECT_EQ(levelChoice().GetCount(), 3u);
 }
 
+TEST_F(PanelEvents, ALevelThatNothingShownCanGetIsNotLeftChosen) {
+  // Stubs of two helices that are gone: pieces, but none that takes a level.
+  LaySelected(plan(), "24188");
+  selectPiece();
+  plan().pieces[0].helix = 71;
+  plan().pieces[1].helix = 72;
+  panel->RefreshSelection();
+  const wxString before = levelChoice().GetStringSelection();
+  choose(levelChoice(), 1);
+  EXPECT_EQ(takeCalls(), kNoCalls);
+  EXPECT_NE(levelChoice().GetString(1), before);
+  EXPECT_EQ(levelChoice().GetStringSelection(), before);
+}
+
 TEST_F(PanelEvents, RowsOfTheLevelChoiceCarryTheirLevelsId) {
   LaySelected(plan(), "24130");
   selectPiece("24130");

@@ -198,6 +198,20 @@ TEST_F(TallyPanelTest, WidensTheCountForBigNumbers) {
   EXPECT_EQ(list->GetColumnWidth(0) + list->GetColumnWidth(1), list->GetClientSize().x);
 }
 
+TEST_F(TallyPanelTest, ShowsTheDescriptionsOfUsualCurvesWhole) {
+  // More letters than a list of the panel's width holds in the usual size.
+  Place(plan(), "24130");
+  Place(plan(), "24230");
+  Place(plan(), "24630");
+  resize(275, 400);
+  panel->RefreshTally();
+  show();
+  for (long i = 0; i < 3; ++i) {
+    const wxString text = list->GetItemText(i, 0);
+    EXPECT_LE(list->GetTextExtent(text).x + 12, list->GetColumnWidth(0)) << text;
+  }
+}
+
 TEST_F(TallyPanelTest, TellsTheWholeTextOfARowThatIsCutOff) {
   Place(plan(), "2270");
   Place(plan(), "24188");
