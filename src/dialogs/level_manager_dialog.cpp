@@ -7,6 +7,7 @@
 #include <wx/stattext.h>
 #include <wx/textdlg.h>
 
+#include <algorithm>
 #include <string>
 
 #include "canvas/operations/level_edits.h"
@@ -87,6 +88,34 @@ void LevelManagerDialog::bindEvents() {
   list_->Bind(wxEVT_LIST_ITEM_UNCHECKED, [this](wxListEvent& event) { onChecked(event, false); });
   list_->Bind(wxEVT_LIST_ITEM_SELECTED, [this](wxListEvent& event) { onSelected(event); });
   list_->Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent&) { onProperties(); });
+  list_->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+    if (event.HasAnyModifiers() || !takeListKey(event.GetKeyCode())) event.Skip();
+  });
+}
+
+// The list leaves three things to the mouse alone: the first selection when its invisible cursor
+// stands on the row already, the check, and the activation, for which Enter goes to Close.
+bool LevelManagerDialog::takeListKey(int key) {
+  const std::optional<std::size_t> selected = selectedRow();
+  const long cursor = std::max(list_->GetFocusedItem(), 0L);
+  switch (key) {
+    case WXK_UP:
+    case WXK_DOWN:
+    case WXK_HOME:
+    case WXK_END:
+      if (selected || list_->GetItemCount() == 0) return false;
+      selectRow(static_cast<std::size_t>(cursor));
+      return true;
+    case WXK_SPACE:
+      if (cursor < list_->GetItemCount()) list_->CheckItem(cursor, !list_->IsItemChecked(cursor));
+      return true;
+    case WXK_RETURN:
+    case WXK_NUMPAD_ENTER:
+      if (selected) onProperties();
+      return selected.has_value();
+    default:
+      return false;
+  }
 }
 
 void LevelManagerDialog::fill() {

@@ -29,6 +29,7 @@ class LevelManagerDialog : public wxDialog {
   void markActive();
   std::optional<std::size_t> selectedRow() const;
   void selectRow(std::size_t row);
+  bool takeListKey(int key);
   void onChecked(wxListEvent& event, bool checked);
   void onSelected(wxListEvent& event);
   void onAdd();

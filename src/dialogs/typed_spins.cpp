@@ -21,9 +21,10 @@ TypedSpins::TypedSpins(wxDialog& dialog) {
 
 void TypedSpins::watch(wxSpinCtrlBase& spin, double smallest, double largest, bool wholeOnly) {
   watched_.push_back({&spin, smallest, largest, wholeOnly});
-  spin.Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
+  // Not when the focus leaves: the control's own number is there before that is told.
+  spin.Bind(wxEVT_KEY_UP, [this, &spin](wxKeyEvent& event) {
     event.Skip();
-    noteAll();
+    if (Watched* watched = find(&spin)) watched->refused = !isTaken(*watched);
   });
   spin.Bind(wxEVT_SET_FOCUS, [this, &spin](wxFocusEvent& event) {
     event.Skip();
