@@ -71,8 +71,9 @@ LayoutShapeDialog::LayoutShapeDialog(wxWindow* parent, vantrel::Layout& layout)
       unit_(UnitOf(layout)),
       typed_(*this) {
   build();
-  buildPage();
-  shapeChoice_->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { buildPage(); });
+  makeRoomForAllPages();
+  buildPage(shape());
+  shapeChoice_->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { buildPage(shape()); });
   Bind(
       wxEVT_BUTTON, [this](wxCommandEvent&) { apply(); }, wxID_OK);
   shapeChoice_->SetFocus();
@@ -110,17 +111,28 @@ void LayoutShapeDialog::build() {
   SetSizer(column);
 }
 
-void LayoutShapeDialog::buildPage() {
+// A dialog that changed its size from page to page would depend on how soon the window manager
+// follows, and its buttons would run away from the mouse.
+void LayoutShapeDialog::makeRoomForAllPages() {
+  wxSize largest;
+  for (std::int32_t shape = 0; shape < kBaseboardShapes; ++shape) {
+    buildPage(shape);
+    largest.IncTo(pageSizer_->GetMinSize());
+  }
+  page_->SetMinSize(largest);
+  GetSizer()->SetSizeHints(this);
+}
+
+void LayoutShapeDialog::buildPage(std::int32_t shape) {
   typed_.clear();
   spins_.fill(nullptr);
   vertexField_ = nullptr;
   pageSizer_->Clear(true);
-  const Page& page = kPages[static_cast<std::size_t>(shape())];
+  const Page& page = kPages[static_cast<std::size_t>(shape)];
   pageSizer_->Add(new wxStaticText(page_, wxID_ANY, page.help), 0, wxBOTTOM, kGap);
-  buildSpins(shape());
-  if (shape() == kCustomBoard) buildVertexField();
+  buildSpins(shape);
+  if (shape == kCustomBoard) buildVertexField();
   page_->Layout();
-  GetSizer()->SetSizeHints(this);
 }
 
 void LayoutShapeDialog::buildSpins(std::int32_t shape) {

@@ -33,7 +33,8 @@ class LayoutShapeDialog : public wxDialog {
 
  private:
   void build();
-  void buildPage();
+  void makeRoomForAllPages();
+  void buildPage(std::int32_t shape);
   void buildSpins(std::int32_t shape);
   void buildVertexField();
   void addSpinRow(std::size_t index, const char* caption, std::int32_t value);

@@ -9,6 +9,7 @@
 #include <wx/panel.h>
 #include <wx/spinctrl.h>
 #include <wx/textctrl.h>
+#include <wx/utils.h>
 
 #include <string>
 #include <vector>
@@ -60,6 +61,15 @@ inline std::vector<std::string> CutOffControls(wxWindow& window) {
       for (const std::string& deeper : CutOffControls(*child)) found.push_back(deeper);
   }
   return found;
+}
+
+// A new size of a window on the screen is the window manager's to give, in its own time.
+inline void WaitUntilNothingIsCutOff(wxWindow& window) {
+  for (int i = 0; i < 100; ++i) {
+    wxTheApp->Yield();
+    if (CutOffControls(window).empty()) return;
+    wxMilliSleep(10);
+  }
 }
 
 }  // namespace vantrel

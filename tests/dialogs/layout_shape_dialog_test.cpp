@@ -312,7 +312,7 @@ TEST_F(LayoutShape, NothingIsCutOffOnAnyPageInAnyUnit) {
     run([&](wxDialog& dialog) {
       for (int shape = 0; shape < 7; ++shape) {
         Choose(dialog, shape);
-        wxTheApp->Yield();
+        WaitUntilNothingIsCutOff(dialog);
         EXPECT_EQ(CutOffControls(dialog), std::vector<std::string>{}) << shape;
       }
       Press(dialog, "Cancel");

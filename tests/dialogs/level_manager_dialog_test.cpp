@@ -309,7 +309,7 @@ TEST_F(LevelManager, EscapeAndCloseBothCloseIt) {
 
 TEST_F(LevelManager, NothingIsCutOff) {
   script_.shown("Manage Levels", [](wxDialog& shown) {
-    wxTheApp->Yield();
+    WaitUntilNothingIsCutOff(shown);
     EXPECT_EQ(CutOffControls(shown), std::vector<std::string>{});
     Press(shown, "Close");
   });

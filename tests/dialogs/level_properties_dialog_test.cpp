@@ -95,7 +95,7 @@ TEST_F(LevelPropertiesPage, NothingIsCutOffInAnyUnit) {
   for (const std::int32_t units : {0, 1, 2}) {
     ModalScript script;
     script.shown("Level Properties: Deck", [](wxDialog& dialog) {
-      wxTheApp->Yield();
+      WaitUntilNothingIsCutOff(dialog);
       EXPECT_EQ(CutOffControls(dialog), std::vector<std::string>{});
       Press(dialog, "Cancel");
     });
