@@ -31,8 +31,17 @@ constexpr const char* kIntroduction =
 
 enum Column : int { kNameColumn = 0, kHeightColumn = 1, kColourColumn = 2, kIdColumn = 3 };
 
+// A box is as high as its text, and no name may push its buttons off the screen.
+constexpr std::size_t kShownNameLength = 200;
+
+std::string ShownName(const std::string& name) {
+  const wxString shown = ToWx(name);
+  if (shown.length() <= kShownNameLength) return ToUtf8(shown);
+  return ToUtf8(shown.Left(kShownNameLength)) + "…";
+}
+
 std::string RemovalQuestion(const Level& level, const LevelContents& contents) {
-  return "Remove level \"" + level.name +
+  return "Remove level \"" + ShownName(level.name) +
          "\"?\n\nThis will PERMANENTLY DELETE everything on this level:\n    • " +
          std::to_string(contents.pieces) + " track piece(s)\n    • " +
          std::to_string(contents.scenery) + " scenery item(s)\n    • " +

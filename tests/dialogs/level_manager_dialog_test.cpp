@@ -257,6 +257,16 @@ TEST_F(LevelManager, TheQuestionHasItsOwnTwoAnswers) {
   Press(dialog(), "Remove Level");
 }
 
+TEST_F(LevelManager, TheQuestionShortensANameThatWouldPushItsButtonsOffTheScreen) {
+  plan_.levels[1].name = std::string(200, 'x');
+  plan_.levels[2].name = std::string(201, 'y');
+  Select(dialog(), 1);
+  remove(RemovalText(std::string(200, 'x'), 0, 0, 0), wxID_CANCEL);
+  Select(dialog(), 2);
+  remove(RemovalText(std::string(200, 'y') + "\xE2\x80\xA6", 0, 0, 0), wxID_CANCEL);
+  EXPECT_EQ(plan_.levels.size(), 3u);
+}
+
 TEST_F(LevelManager, AfterARemovalTheNextLevelFollowsTheHighestId) {
   Select(dialog(), 1);
   remove(RemovalText("Deck 2", 0, 0, 0), wxID_OK);
