@@ -261,6 +261,23 @@ TEST_F(Painter, SceneryIsTurnedAndScaled) {
   EXPECT_NEAR(blob(0).pixels, plain.pixels / 2, 0.15 * plain.pixels);
 }
 
+TEST_F(Painter, AScaledItemKeepsItsHeight) {
+  // Lying a millimetre low, a box shows above a deck at the table's height when it is taller than
+  // that: one of 0.5 would at four times its height, and one of 1.5 would not at half of it.
+  Scene scene;
+  AddBox(scene.sceneMesh, {0, 0, -0.2F}, {300, 300, 0.2F}, {kBlue, kBlue}, {300, 300});
+  const auto seen = [&](float height, float scaleX, float scaleY) {
+    scene.sceneryModels = {{"house", Box(60.0F, 60.0F, height, kRed)}};
+    scene.sceneryInstances = {{.key = "house", .scaleX = scaleX, .scaleY = scaleY}};
+    paint(scene, fromAbove());
+    return blob(0).pixels > 100;
+  };
+  EXPECT_FALSE(seen(0.5F, 4.0F, 1.0F));
+  EXPECT_FALSE(seen(0.5F, 1.0F, 4.0F));
+  EXPECT_TRUE(seen(1.5F, 0.5F, 1.0F));
+  EXPECT_TRUE(seen(1.5F, 1.0F, 0.5F));
+}
+
 TEST_F(Painter, SceneryLiesAMillimetreLowAndItsBridgesLower) {
   // A deck 18 mm thick at the table's height hides what lies below it.
   Scene scene;
