@@ -11,6 +11,7 @@
 #include "canvas/operations/rotating.h"
 #include "canvas/operations/selection.h"
 #include "catalog/connector_geometry.h"
+#include "doc/find_record.h"
 #include "doc/format_length.h"
 #include "doc/undo.h"
 
@@ -38,12 +39,6 @@ std::optional<double> RightAngleNear(double degrees) {
 double AngleAbout(const CanvasContext& context, Vec2 pivot, DevicePoint at) {
   const DevicePoint centre = context.state.view.toDevice(pivot);
   return std::atan2(at.y - centre.y, at.x - centre.x) * 180.0 / std::numbers::pi;
-}
-
-Helix* FindHelix(Layout& layout, std::int32_t id) {
-  for (Helix& helix : layout.helices)
-    if (id != kNone && helix.id == id) return &helix;
-  return nullptr;
 }
 
 void Finish(CanvasContext& context) {
@@ -85,7 +80,7 @@ bool pressAltRotate(CanvasContext& context, const PointerEvent& event) {
   gesture.active = true;
   gesture.start = selectionPoses(layout);
   gesture.pivot = selectionMean(layout);
-  if (const Helix* const helix = FindHelix(layout, helixId)) {
+  if (const Helix* const helix = FindRecord(layout.helices, helixId)) {
     gesture.helix = helixId;
     gesture.helixHeading = helix->heading;
     gesture.pivot = {helix->cx, helix->cy};
@@ -108,7 +103,7 @@ bool altRotateMotion(CanvasContext& context, const PointerEvent& event) {
   }
   const double turn = TurnTo(context, event.at);
   turnSelectionFrom(context.layout, gesture.start, gesture.pivot, turn);
-  if (Helix* const helix = FindHelix(context.layout, gesture.helix))
+  if (Helix* const helix = FindRecord(context.layout.helices, gesture.helix))
     helix->heading = normalizeDegrees(gesture.helixHeading + turn);
   context.host.markDirty();
   context.host.repaint();

@@ -7,19 +7,13 @@
 #include "canvas/operations/hit_test.h"
 #include "canvas/operations/shape_properties.h"
 #include "catalog/scenery_catalog.h"
+#include "doc/find_record.h"
 #include "doc/undo.h"
 
 namespace vantrel {
 namespace {
 
 constexpr double kSmallestScale = 0.1;
-
-template <typename Record>
-Record* FindRecord(std::vector<Record>& records, std::int32_t id) {
-  for (Record& record : records)
-    if (record.id == id) return &record;
-  return nullptr;
-}
 
 void ShowChange(CanvasContext& context) {
   // The panel shows the sizes.

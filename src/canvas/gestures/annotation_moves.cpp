@@ -4,18 +4,12 @@
 #include <vector>
 
 #include "canvas/operations/hit_test.h"
+#include "doc/find_record.h"
 #include "doc/layout_ops.h"
 #include "doc/undo.h"
 
 namespace vantrel {
 namespace {
-
-template <typename Record>
-Record* FindRecord(std::vector<Record>& records, std::int32_t id) {
-  for (Record& record : records)
-    if (record.id == id) return &record;
-  return nullptr;
-}
 
 // What a press on a record of this kind does before its gesture starts.
 template <typename Record>

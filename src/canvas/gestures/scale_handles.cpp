@@ -11,6 +11,7 @@
 #include "canvas/operations/hit_test.h"
 #include "catalog/connector_geometry.h"
 #include "catalog/scenery_catalog.h"
+#include "doc/find_record.h"
 #include "doc/undo.h"
 
 namespace vantrel {
@@ -27,12 +28,6 @@ constexpr std::array<Vec2, kHandles> kSides = {Vec2{-1, -1}, {0, -1}, {1, -1}, {
 
 bool IsCorner(std::int32_t handle) {
   return handle % 2 == 0;
-}
-
-SceneryItem* FindScenery(Layout& layout, std::int32_t id) {
-  for (SceneryItem& item : layout.scenery)
-    if (item.id == id) return &item;
-  return nullptr;
 }
 
 CanvasCursor CursorOver(std::int32_t handle) {
@@ -57,7 +52,7 @@ CanvasCursor CursorOver(std::int32_t handle) {
 // The handle of the single selected item under a point, or kNone.
 std::int32_t HandleAt(CanvasContext& context, DevicePoint at) {
   const SceneryItem* const item =
-      FindScenery(context.layout, singleSelectedScenery(context.layout));
+      FindRecord(context.layout.scenery, singleSelectedScenery(context.layout));
   return item == nullptr ? kNone : hitTestScaleHandle(*item, context.state.view, at);
 }
 
@@ -93,7 +88,8 @@ bool pressScaleHandle(CanvasContext& context, const PointerEvent& event) {
   const std::int32_t handle = HandleAt(context, event.at);
   if (handle == kNone) return false;
   PushUndo(context.layout);
-  const SceneryItem& item = *FindScenery(context.layout, singleSelectedScenery(context.layout));
+  const SceneryItem& item =
+      *FindRecord(context.layout.scenery, singleSelectedScenery(context.layout));
   const auto points = scaleHandlePoints(item, *findScenery(item.item));
   context.state.sceneryResize = {
       .active = true,
@@ -120,7 +116,7 @@ bool hoverScaleHandle(CanvasContext& context, const PointerEvent& event) {
 bool sceneryResizeMotion(CanvasContext& context, const PointerEvent& event) {
   SceneryResize& resize = context.state.sceneryResize;
   if (!resize.active || !event.leftDown) return false;
-  SceneryItem* const item = FindScenery(context.layout, resize.item);
+  SceneryItem* const item = FindRecord(context.layout.scenery, resize.item);
   const SceneryDef* const def = item == nullptr ? nullptr : findScenery(item->item);
   if (def == nullptr) {
     resize.active = false;
@@ -147,7 +143,7 @@ bool endSceneryResize(CanvasContext& context, const PointerEvent&) {
 
 void drawScaleHandles(const CanvasContext& context, wxDC& dc) {
   const SceneryItem* const item =
-      FindScenery(context.layout, singleSelectedScenery(context.layout));
+      FindRecord(context.layout.scenery, singleSelectedScenery(context.layout));
   const SceneryDef* const def = item == nullptr ? nullptr : findScenery(item->item);
   if (def == nullptr) return;
   dc.SetPen(wxPen(wxColour(40, 90, 200)));
