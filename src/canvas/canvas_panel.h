@@ -29,15 +29,12 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
   // within 0.3 and 20 pixels per mm.
   void zoomAt(wxPoint point, double factor);
   void zoomCentred(double factor);
-  // Shows everything, or with `trackOnly` everything but decks and baseboard.
-  void zoomToFit(bool trackOnly);
   void resetView();
   void resetViewUnitScale();
   void showGrid(bool visible);
 
-  // Ends a gesture that is under way between a press and its release, as the release would: for
-  // what goes on to change the document beneath it.
-  void endGestures();
+  // As the release would end it.
+  void endGestures() override;
   // Ends whatever hangs at the pointer, without a trace in the document.
   void cancelPaletteDrag();
   // The cross of the tools that click points, or the normal arrow.
@@ -50,6 +47,7 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
   void beginSceneryDrag(std::string_view item) override;
   void beginHelixDrag(std::string_view kitId) override;
   void placeByDoubleClick(std::string_view part) override;
+  void zoomToFit(bool trackOnly) override;
 
   const CanvasState& state() const { return state_; }
   const ViewTransform& view() const { return state_.view; }

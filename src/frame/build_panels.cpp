@@ -5,6 +5,7 @@
 #include "app/services/frame_log.h"
 #include "canvas/canvas_panel.h"
 #include "frame/main_frame.h"
+#include "frame/store_folder.h"
 #include "palette/palette_panel.h"
 #include "properties/properties_panel.h"
 
@@ -18,6 +19,9 @@ constexpr int kPropertiesSash = -280;  // from the right
 constexpr int kOuterMinPane = 150;
 constexpr int kInnerMinPane = 200;
 constexpr int kSmallestSplitter = 50;
+
+// Beside the program, as the store is.
+const char* const kLibraryFolder = "library";
 
 // How much of the new room the left pane takes when the window grows: the canvas gets all of it.
 constexpr double kLeftStays = 0.0;
@@ -44,7 +48,7 @@ void MainFrame::buildPanels() {
   FrameLog("BuildPanels: root panel created");
   auto* sizer = new wxBoxSizer(wxHORIZONTAL);
   wxSplitterWindow* outer = MakeSplitter(root_, GetClientSize(), kLeftStays);
-  palette_ = new PalettePanel(outer, *this);
+  palette_ = new PalettePanel(outer, *this, PathIn(folders_.store, kLibraryFolder));
   palette_->SetMinSize(wxSize(kPaletteMinWidth, -1));
   FrameLog("BuildPanels: palette created");
   wxSplitterWindow* inner = MakeSplitter(

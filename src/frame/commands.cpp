@@ -22,7 +22,7 @@ constexpr Command kCommands[] = {
     {.id = kCmdPrint, .place = file, .label = "&Print...\tCtrl+P", .separatorAfter = true,
      .available = false},
     {.id = kCmdSaveBlock, .place = file, .label = "Save as &Library Block...",
-     .separatorAfter = true, .available = false},
+     .separatorAfter = true},
     {.id = kCmdExit, .place = file, .label = "E&xit"},
 
     {.id = kCmdUndo, .place = edit, .label = "&Undo\tCtrl+Z"},

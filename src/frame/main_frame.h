@@ -97,6 +97,7 @@ class MainFrame : public wxFrame, public Workspace {
   void onImport(wxCommandEvent& event);
   void onExport(wxCommandEvent& event);
   void onPageSetup(wxCommandEvent& event);
+  void onSaveBlock(wxCommandEvent& event);
   void onExit(wxCommandEvent& event);
   void onUndo(wxCommandEvent& event);
   void onRedo(wxCommandEvent& event);

@@ -8,12 +8,14 @@
 
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 #include "catalog/helix_kits.h"
 #include "catalog/scenery_catalog.h"
 #include "catalog/track_catalog.h"
 #include "palette/palette_sections.h"
 #include "palette/piece_preview_popup.h"
+#include "palette/text.h"
 
 namespace vantrel {
 namespace {
@@ -24,10 +26,6 @@ const char* const kSceneryPageTitle = "Scenery";
 
 // Where a double click puts a helix.
 constexpr Pose kHelixPlace{500.0, 500.0, 0.0};
-
-wxString Text(std::string_view utf8) {
-  return wxString::FromUTF8(utf8.data(), utf8.size());
-}
 
 bool IsHelixKey(std::string_view key) {
   return key.starts_with(kHelixKeyPrefix);
@@ -45,8 +43,8 @@ void AddHelixRows(TrackIconGrid& grid) {
 
 }  // namespace
 
-PalettePanel::PalettePanel(wxWindow* parent, Workspace& workspace)
-    : wxPanel(parent), workspace_(workspace) {
+PalettePanel::PalettePanel(wxWindow* parent, Workspace& workspace, std::string libraryRoot)
+    : wxPanel(parent), workspace_(workspace), libraryRoot_(std::move(libraryRoot)) {
   build();
   popup_ = new PiecePreviewPopup(this);
 }
@@ -62,6 +60,7 @@ void PalettePanel::build() {
   library_ = new wxListBox(notebook_, kLibraryListId);
   scenery_.box = new wxListBox(notebook_, kSceneryListId);
   signals_.box = new wxListBox(notebook_, kSignalsListId);
+  bindLibrary();
   bindList(scenery_.box);
   bindList(signals_.box);
   notebook_->AddPage(grid_, "Track");
@@ -103,10 +102,6 @@ void PalettePanel::RefreshAll() {
 void PalettePanel::SelectSystemFor(const vantrel::Layout& layout) {
   chooser_->SetSelection(paletteIndexFor(layout));
   showSystem();
-}
-
-void PalettePanel::RefreshLibrary() {
-  library_->Clear();
 }
 
 std::int32_t PalettePanel::systemIndex() const {

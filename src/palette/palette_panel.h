@@ -13,6 +13,7 @@
 
 class wxChoice;
 class wxListBox;
+class wxMenu;
 class wxNotebook;
 
 namespace vantrel {
@@ -25,9 +26,13 @@ inline constexpr int kLibraryListId = 3002;
 inline constexpr int kSceneryListId = 3003;
 inline constexpr int kSignalsListId = 3004;
 
+// The entry of the library list's context menu.
+inline constexpr int kDeleteBlockId = 6001;
+
 class PalettePanel : public wxPanel, private TrackIconGridListener {
  public:
-  PalettePanel(wxWindow* parent, Workspace& workspace);
+  // `libraryRoot` is the folder of the library folders, UTF-8.
+  PalettePanel(wxWindow* parent, Workspace& workspace, std::string libraryRoot);
 
   // Where parts and scenery go. Until then, choosing one does nothing. The canvas must live as long
   // as the panel receives events.
@@ -40,11 +45,19 @@ class PalettePanel : public wxPanel, private TrackIconGridListener {
   // Chooses the system that a layout is made of, after the layout was loaded.
   void SelectSystemFor(const vantrel::Layout& layout);
 
-  // Empties the library page: saved blocks can't be listed yet.
+  // Lists the saved blocks of the chosen system. A folder that doesn't exist is an empty list.
   void RefreshLibrary();
+
+  // Where the blocks of the chosen system are. It need not exist.
+  std::string libraryFolder() const;
 
   // The position of the chosen system in paletteSystems().
   std::int32_t systemIndex() const;
+
+ protected:
+  // Pops the menu up over the library list. Returns the id of the entry that was chosen, or
+  // wxID_NONE.
+  virtual int chooseFrom(wxMenu& menu);
 
  private:
   // A list box with a key for each of its rows, empty for a heading.
@@ -55,6 +68,7 @@ class PalettePanel : public wxPanel, private TrackIconGridListener {
 
   void build();
   void bindList(wxListBox* box);
+  void bindLibrary();
 
   void showSystem();
   void fillGrid();
@@ -63,6 +77,10 @@ class PalettePanel : public wxPanel, private TrackIconGridListener {
   void setSceneryPageShown(bool shown);
   std::string currentListKey() const;
   void startSceneryDrag();
+  std::string libraryPath(int row) const;
+  void placeSelectedBlock();
+  void offerToDelete(wxPoint at);
+  void deleteBlock(const std::string& path);
   void hidePopup();
 
   void rowActivated(const std::string& key) override;
@@ -76,6 +94,8 @@ class PalettePanel : public wxPanel, private TrackIconGridListener {
   wxNotebook* notebook_ = nullptr;
   TrackIconGrid* grid_ = nullptr;
   wxListBox* library_ = nullptr;
+  std::string libraryRoot_;
+  std::vector<std::string> libraryPaths_;  // of the library's rows
   KeyedList scenery_;
   KeyedList signals_;
   PiecePreviewPopup* popup_ = nullptr;

@@ -48,6 +48,12 @@ class PlacementTarget {
   virtual void beginHelixDrag(std::string_view kitId) = 0;
   // Adds the part to the last selected piece, or starts a drag when nothing is selected.
   virtual void placeByDoubleClick(std::string_view part) = 0;
+
+  // Ends a gesture that is under way between a press and its release, before the palette changes
+  // the document beneath it.
+  virtual void endGestures() = 0;
+  // Shows everything, or with `trackOnly` everything but decks and baseboard.
+  virtual void zoomToFit(bool trackOnly) = 0;
 };
 
 }  // namespace vantrel

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "canvas/operations/autofill.h"
+#include "canvas/operations/block_placing.h"
 #include "canvas/operations/extending.h"
 #include "canvas/operations/grades.h"
 #include "canvas/operations/helix_placing.h"
@@ -28,8 +30,8 @@ namespace {
 constexpr std::size_t kManyPieces = 60;
 
 // How often each edit is tried, in the order of Edit.
-constexpr std::array<std::size_t, EditSession::kEdits> kWeights = {14, 6, 6, 14, 4, 4, 4, 4, 12,
-                                                                   3,  3, 6, 2,  1, 6, 4, 7, 1};
+constexpr std::array<std::size_t, EditSession::kEdits> kWeights = {14, 6, 6, 14, 4, 4, 4, 4, 12, 3,
+                                                                   3,  6, 2, 1,  6, 4, 2, 7, 1};
 
 std::string TextOf(const Layout& layout) {
   return LayoutText(layout, "Session");
@@ -38,9 +40,9 @@ std::string TextOf(const Layout& layout) {
 }  // namespace
 
 const std::array<std::string_view, EditSession::kEdits> EditSession::kEditNames = {
-    "place",         "auto-connect", "clone",  "select",   "copy", "paste",
-    "delete",        "join",         "drag",   "rotate",   "turn", "grade",
-    "place scenery", "place helix",  "tunnel", "autofill", "undo", "redo"};
+    "place",  "auto-connect", "clone",       "select", "copy",  "paste",         "delete",
+    "join",   "drag",         "rotate",      "turn",   "grade", "place scenery", "place helix",
+    "tunnel", "autofill",     "place block", "undo",   "redo"};
 
 EditSession::EditSession(unsigned seed) : random_(seed) {
   EnsureDefaultLevel(layout);
@@ -127,6 +129,8 @@ bool EditSession::run(Edit edit) {
       return tunnel();
     case kAutofill:
       return autofill();
+    case kBlock:
+      return block();
     case kUndo:
       return stepBack();
     case kRedo:
@@ -213,6 +217,20 @@ bool EditSession::select() {
 bool EditSession::paste() {
   if (clipboard_.pieces.size() > kManyPieces / 4) clipboard_ = {};
   return pasteClipboard(layout, clipboard_, anyPoint());
+}
+
+// What was copied last, as it would come back from a block's file.
+bool EditSession::block() {
+  Block block{.pieces = clipboard_.pieces, .scenery = clipboard_.scenery};
+  if (block.pieces.size() > kManyPieces / 4) return false;
+  for (Piece& piece : block.pieces) {
+    piece.z = 0.0;
+    piece.grade = 0.0;
+    piece.rev = false;
+    piece.helix = kNone;
+    piece.free = false;
+  }
+  return placeBlock(layout, std::move(block));
 }
 
 bool EditSession::remove() {

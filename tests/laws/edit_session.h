@@ -56,6 +56,7 @@ class EditSession {
     kHelix,
     kTunnel,
     kAutofill,
+    kBlock,
     kUndo,
     kRedo,
     kEdits
@@ -86,6 +87,7 @@ class EditSession {
   bool grade();
   bool tunnel();
   bool autofill();
+  bool block();
   bool stepBack();
   bool stepForward();
 

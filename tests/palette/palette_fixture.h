@@ -6,6 +6,7 @@
 #include <wx/choice.h>
 #include <wx/frame.h>
 #include <wx/listbox.h>
+#include <wx/menu.h>
 #include <wx/notebook.h>
 
 #include <string>
@@ -13,6 +14,7 @@
 #include <vector>
 
 #include "palette/palette_panel.h"
+#include "tests/support/temp_folder.h"
 #include "workspace/workspace.h"
 
 namespace vantrel {
@@ -32,6 +34,8 @@ class RecordingCanvas : public PlacementTarget {
   void beginSceneryDrag(std::string_view item) override { note("scenery drag ", item); }
   void beginHelixDrag(std::string_view kitId) override { note("helix drag ", kitId); }
   void placeByDoubleClick(std::string_view part) override { note("double click ", part); }
+  void endGestures() override { note("end gestures", ""); }
+  void zoomToFit(bool trackOnly) override { note("fit ", trackOnly ? "track" : "everything"); }
 
   std::vector<std::string> calls;
 
@@ -44,11 +48,13 @@ class RecordingCanvas : public PlacementTarget {
 class RecordingWorkspace : public Workspace {
  public:
   Layout& layout() override { return document; }
-  void markDirty() override { ++changes; }
-  void selectionChanged() override { ++changes; }
-  void refreshViews() override { ++changes; }
+  void markDirty() override { changes.emplace_back("dirty"); }
+  void selectionChanged() override { changes.emplace_back("selection"); }
+  void refreshViews() override { changes.emplace_back("views"); }
   void noteCanvasClick(Vec2) override {}
-  void setStatus(StatusField, const std::string&) override {}
+  void setStatus(StatusField field, const std::string& text) override {
+    if (field == kStatusPieces) piecesText = text;
+  }
   std::string status(StatusField) const override { return {}; }
   void clickToolEnded(std::int32_t) override {}
   void placeHelix(std::string_view kitId, const Pose& pose) override {
@@ -57,9 +63,28 @@ class RecordingWorkspace : public Workspace {
   }
 
   Layout document;
-  int changes = 0;
+  std::vector<std::string> changes;  // what the palette said, in order
+  std::string piecesText;
   std::vector<std::string> kits;
   std::vector<Pose> poses;
+};
+
+// The palette with its menu answered: a menu that pops up waits for the user.
+class ScriptedPalette : public PalettePanel {
+ public:
+  using PalettePanel::PalettePanel;
+
+  int choice = wxID_NONE;
+  std::vector<std::string> menus;  // the entries of each menu, "id label"
+
+ protected:
+  int chooseFrom(wxMenu& menu) override {
+    std::string entries;
+    for (const wxMenuItem* item : menu.GetMenuItems())
+      entries += std::to_string(item->GetId()) + " " + item->GetItemLabel().utf8_string();
+    menus.push_back(entries);
+    return choice;
+  }
 };
 
 // Each fixture starts as the program does: the palette made, filled and joined to a canvas.
@@ -67,7 +92,7 @@ class PaletteTest : public testing::Test {
  protected:
   void SetUp() override {
     frame = new wxFrame(nullptr, wxID_ANY, "palette", wxPoint(0, 0), wxSize(235, 800));
-    panel = new PalettePanel(frame, workspace);
+    panel = new ScriptedPalette(frame, workspace, temp.at("library"));
     panel->SetSize(0, 0, 235, 800);
     panel->Layout();
     panel->RefreshAll();
@@ -140,10 +165,11 @@ class PaletteTest : public testing::Test {
     return -1;
   }
 
+  TempFolder temp;
   RecordingWorkspace workspace;
   RecordingCanvas canvas;
   wxFrame* frame = nullptr;
-  PalettePanel* panel = nullptr;
+  ScriptedPalette* panel = nullptr;
   wxChoice* chooser = nullptr;
   wxNotebook* notebook = nullptr;
   TrackIconGrid* grid = nullptr;

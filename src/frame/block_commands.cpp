@@ -1,0 +1,52 @@
+// Saving the selection as a library block.
+#include <wx/textdlg.h>
+
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+#include "app/services/utf8_path.h"
+#include "canvas/canvas_panel.h"
+#include "canvas/operations/selection.h"
+#include "dialogs/message_boxes.h"
+#include "dialogs/text.h"
+#include "frame/main_frame.h"
+#include "frame/store_folder.h"
+#include "io/block_file.h"
+#include "palette/palette_panel.h"
+
+namespace vantrel {
+namespace {
+
+const char* const kTitle = "Save Block";
+
+// The library lists ".vtl" alone: a saved block shows up there once its file was given that
+// extension.
+const char* const kSavedExtension = ".xml";
+
+}  // namespace
+
+void MainFrame::onSaveBlock(wxCommandEvent&) {
+  canvas_->endGestures();
+  if (!hasSelectedObject(layout_)) {
+    Inform(nullptr, kTitle, "Select pieces first to save as library block.");
+    return;
+  }
+  wxTextEntryDialog dialog(this, "Block name:", "Save Library Block");
+  if (dialog.ShowModal() != wxID_OK) return;
+  const std::string name = ToUtf8(dialog.GetValue());
+  if (name.empty()) return;
+  const std::string folder = palette_->libraryFolder();
+  // Where it can't be made, writing the file says so.
+  std::error_code error;
+  std::filesystem::create_directories(Utf8Path(folder), error);
+  const std::string problem = SaveBlockFile(layout_, PathIn(folder, name) + kSavedExtension, name);
+  if (!problem.empty()) {
+    ReportError(this, "Save Block Failed", problem);
+    return;
+  }
+  palette_->RefreshLibrary();
+  Inform(this, kTitle, "Block saved: " + name);
+}
+
+}  // namespace vantrel

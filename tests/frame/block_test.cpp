@@ -1,0 +1,171 @@
+#include <gtest/gtest.h>
+#include <wx/menu.h>
+#include <wx/stattext.h>
+#include <wx/textdlg.h>
+
+#include <filesystem>
+#include <string>
+
+#include "palette/palette_panel.h"
+#include "tests/frame/frame_fixture.h"
+
+namespace vantrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Blocks : public FrameTest {
+ protected:
+  std::string library(const std::string& name) const {
+    return inStore("library/Marklin_C-Track/" + name);
+  }
+
+  wxListBox& list() {
+    auto* found = dynamic_cast<wxListBox*>(wxWindow::FindWindowById(3002, &frame().palette()));
+    EXPECT_NE(found, nullptr);
+    return *found;
+  }
+
+  void save() { command(2001); }
+
+  void saveUnder(const std::string& name) {
+    ModalScript script;
+    script.dialog("Save Library Block", wxID_OK, typed(name));
+    script.box("Save Block", "Block saved: " + name, kInformationBox, wxID_OK);
+    save();
+  }
+
+  static ModalScript::Action typed(const std::string& name) {
+    return [name](wxDialog& dialog) {
+      auto* entry = dynamic_cast<wxTextEntryDialog*>(&dialog);
+      ASSERT_NE(entry, nullptr);
+      EXPECT_EQ(entry->GetValue(), "");
+      EXPECT_NE(FindControl<wxStaticText>(dialog, "Block name:"), nullptr);
+      entry->SetValue(wxString::FromUTF8(name));
+    };
+  }
+};
+
+TEST_F(Blocks, WithNothingSelectedTheCommandSaysSoAndEnds) {
+  addPiece();
+  plan().labels.push_back({.id = 50, .sel = true});
+  ModalScript script;
+  script.box("Save Block", "Select pieces first to save as library block.", kInformationBox,
+             wxID_OK);
+  save();
+  EXPECT_FALSE(fs::exists(inStore("library")));
+}
+
+TEST_F(Blocks, ASelectionIsWrittenIntoTheFolderOfTheSystemWhichIsMadeForIt) {
+  addPiece().sel = true;
+  addPiece();
+  saveUnder("Yard");
+  const std::string text = ReadFileText(library("Yard.xml"));
+  EXPECT_NE(text.find("<block name=\"Yard\" version=\"1\">\n  <piece id=\"1\""), std::string::npos);
+  EXPECT_EQ(text.find("<piece id=\"2\""), std::string::npos);
+  EXPECT_FALSE(frame().dirty());
+}
+
+TEST_F(Blocks, AnotherSystemHasAnotherFolder) {
+  addPiece("8500").sel = true;
+  frame().palette().SelectSystemFor(plan());
+  saveUnder("Small");
+  EXPECT_TRUE(fs::exists(inStore("library/Marklin_Z-Track/Small.xml")));
+}
+
+TEST_F(Blocks, SceneryAloneIsEnough) {
+  frame();
+  plan().scenery.push_back({.id = 1, .item = "tree", .sel = true});
+  saveUnder("Trees");
+  EXPECT_TRUE(fs::exists(library("Trees.xml")));
+}
+
+TEST_F(Blocks, TheNameIsNotTrimmed) {
+  addPiece().sel = true;
+  saveUnder("  Süd ");
+  EXPECT_TRUE(fs::exists(library("  Süd .xml")));
+}
+
+TEST_F(Blocks, CancelOrAnEmptyNameWritesNothing) {
+  addPiece().sel = true;
+  ModalScript script;
+  script.dialog("Save Library Block", wxID_CANCEL, typed("Unwanted"));
+  save();
+  script.dialog("Save Library Block", wxID_OK, typed(""));
+  save();
+  EXPECT_FALSE(fs::exists(inStore("library")));
+}
+
+TEST_F(Blocks, TheSecondOfTwoSavesUnderOneNameReplacesTheFirstSilently) {
+  addPiece().sel = true;
+  saveUnder("Yard");
+  addPiece().sel = true;
+  saveUnder("Yard");
+  EXPECT_NE(ReadFileText(library("Yard.xml")).find("<piece id=\"2\""), std::string::npos);
+}
+
+TEST_F(Blocks, ANameThatTheFileSystemRefusesIsReported) {
+  addPiece().sel = true;
+  ModalScript script;
+  script.dialog("Save Library Block", wxID_OK, typed("north/south"));
+  script.box("Save Block Failed", "Cannot open file: " + library("north/south.xml"), kErrorBox,
+             wxID_OK);
+  save();
+  EXPECT_TRUE(script.finished());
+}
+
+TEST_F(Blocks, AFolderThatCannotBeMadeIsReported) {
+  makeStoreUnwritable();
+  addPiece().sel = true;
+  ModalScript script;
+  script.dialog("Save Library Block", wxID_OK, typed("Yard"));
+  script.box("Save Block Failed", "Cannot open file: " + library("Yard.xml"), kErrorBox, wxID_OK);
+  save();
+  EXPECT_TRUE(script.finished());
+}
+
+TEST_F(Blocks, ABlockJustSavedDoesNotShowUpButOneWithItsExtensionChangedDoesAndPlaces) {
+  addPiece().sel = true;
+  plan().pieces[0].x = 640;
+  saveUnder("Yard");
+  EXPECT_EQ(list().GetCount(), 0u);
+  fs::rename(library("Yard.xml"), library("Yard.vtl"));
+  plan().pieces[0].sel = false;
+  addPiece().sel = true;
+  saveUnder("Other");  // lists the folder anew
+  ASSERT_EQ(list().GetCount(), 1u);
+  EXPECT_EQ(list().GetString(0), "Yard");
+  DoubleClickRow(list(), 0);
+  ASSERT_EQ(plan().pieces.size(), 3u);
+  EXPECT_EQ(plan().pieces[2].id, 3);
+  EXPECT_EQ(plan().pieces[2].x, 0.0);
+  EXPECT_TRUE(frame().dirty());
+  EXPECT_EQ(statusText(kStatusPieces), "Pieces: 3");
+  command(2002);
+  EXPECT_EQ(plan().pieces.size(), 2u);
+}
+
+TEST_F(Blocks, PlacingFitsTheViewToTheTrackAndNotToTheBaseboard) {
+  frame();
+  fs::create_directories(library(""));
+  WriteFileText(library("One.vtl"),
+                "<piece id=\"1\" cat=\"24188\" x=\"0\" y=\"0\" heading=\"0\">\n");
+  frame().palette().RefreshLibrary();
+  plan().baseboard = {{0, 0}, {9000, 0}, {9000, 9000}};
+  DoubleClickRow(list(), 0);
+  const double placed = frame().canvas().view().scale;
+  frame().canvas().zoomToFit(false);
+  EXPECT_GT(placed, frame().canvas().view().scale);
+  frame().canvas().zoomToFit(true);
+  EXPECT_EQ(placed, frame().canvas().view().scale);
+}
+
+TEST_F(Blocks, TheSaveEntryIsAlwaysOffered) {
+  EXPECT_TRUE(frame().GetMenuBar()->IsEnabled(2001));
+  wxUpdateUIEvent event(2001);
+  frame().ProcessWindowEvent(event);
+  EXPECT_TRUE(!event.GetSetEnabled() || event.GetEnabled());
+}
+
+}  // namespace
+}  // namespace vantrel
