@@ -291,3 +291,41 @@ test_levels_by_the_mouse() {
   expect "active" 2 "$(attribute active '<levels' "$plan")" || return 1
   expect "track left" 2 "$(attribute id '<piece ' "$plan")" || return 1
 }
+
+test_a_free_form_baseboard_is_drawn_on_the_canvas() {
+  local plan="$store/Free.vtl" i
+  open_shape_dialog || return 1
+  # The sixth of the list.
+  for i in 1 2 3 4 5; do xdotool key Down; sleep 0.1; done
+  picture shape_free_form
+  key Tab
+  key Return
+  window_gone '^Layout Baseboard$' || return 1
+  at 200 200
+  click
+  at 1200 200
+  click
+  at 1200 900
+  picture free_form
+  click
+  at 300 1000
+  click
+  # Near the first vertex: 10 mm are 4 pixels.
+  at 205 210
+  click
+  settle
+  save_as Free || return 1
+  expect "vertices" '200.0000,200.0000 1200.0000,200.0000 1200.0000,900.0000 300.0000,1000.0000 ' \
+    "$(vertices "$plan")" || return 1
+  expect "last shape" 5 "$(attribute id '<lastshape' "$plan")" || return 1
+  # Given up by Escape, the old outline stays. The dialog opens on what was chosen last.
+  open_shape_dialog || return 1
+  key Tab
+  key Return
+  window_gone '^Layout Baseboard$' || return 1
+  at 400 400
+  click
+  key Escape
+  key ctrl+s
+  expect "vertices after Escape" 4 "$(grep -c '<vertex' "$plan")" || return 1
+}
