@@ -47,8 +47,8 @@ focus_control() {
   for _ in $(seq "$1"); do xdotool key Tab; sleep 0.1; done
 }
 
-# press_button TABS: by the space bar.
-press_button() {
+# press_panel_button TABS: by the space bar.
+press_panel_button() {
   focus_control "$1" || return 1
   key space
 }
@@ -68,7 +68,7 @@ set_height() {
 
 # choose_row TABS N: the Nth entry below the present one of a drop-down list.
 choose_row() {
-  press_button "$1" || return 1
+  press_panel_button "$1" || return 1
   for _ in $(seq "$2"); do xdotool key Down; sleep 0.1; done
   key Return
 }
@@ -110,7 +110,7 @@ test_a_grade_climbs_over_double_clicks_ends_and_is_laid_again() {
   local plan="$store/Climb.vtl" i
   first_straight || return 1
   type_number $tabs_to_degrees 2 || return 1
-  press_button $tabs_to_start || return 1
+  press_panel_button $tabs_to_start || return 1
   for i in 1 2 3 4; do extend_straight $i; done
   picture climb
   save_as Climb || return 1
@@ -121,7 +121,7 @@ test_a_grade_climbs_over_double_clicks_ends_and_is_laid_again() {
   # In mid-chain: the third lies level at the end of the second, 2 * 6.57158 up; the fourth keeps its
   # own slope and height; the run that is found ahead ends.
   select_straight 3
-  press_button $tabs_to_end || return 1
+  press_panel_button $tabs_to_end || return 1
   key ctrl+s
   expect "heights after End Grade" '0.0000 6.5716 13.1432 19.7147 26.2863 ' "$(heights "$plan")" ||
     return 1
@@ -147,7 +147,7 @@ test_a_grade_climbs_over_double_clicks_ends_and_is_laid_again() {
   expect "heights by hand" '0.0000 6.5716 13.1432 30.0000 26.2863 32.8579 32.8579 ' \
     "$(heights "$plan")" || return 1
   select_straight 5
-  press_button $tabs_to_recalc || return 1
+  press_panel_button $tabs_to_recalc || return 1
   key ctrl+s
   expect "heights after Recalc" '0.0000 6.5716 13.1432 30.0000 36.5716 43.1432 43.1432 ' \
     "$(heights "$plan")" || return 1
@@ -164,7 +164,7 @@ test_a_grade_downward_falls() {
   # From UP to DOWN.
   focus_control $tabs_to_direction || return 1
   key Right
-  press_button $tabs_to_start || return 1
+  press_panel_button $tabs_to_start || return 1
   extend_straight 1
   extend_straight 2
   save_as Fall || return 1
@@ -216,7 +216,7 @@ test_a_run_is_coloured_and_let_go_of() {
   picture run_page
   # On a run neither height nor grade can be set, but what comes before them can.
   choose_row $tabs_to_colour 1 || return 1
-  press_button $tabs_to_apply || return 1
+  press_panel_button $tabs_to_apply || return 1
   save_as Coloured || return 1
   # Red is 220, 60, 60: 220 * 65536 + 60 * 256 + 60 = 14433340.
   expect "colours" '14433340 14433340 - ' "$(colours "$plan")" || return 1
@@ -224,10 +224,10 @@ test_a_run_is_coloured_and_let_go_of() {
   [ -n "$(pixels '#DC3C3C')" ] || { problem="no red track"; return 1; }
   # Default takes the colour off again; the list still stands on Red, one below it.
   select_straight 2
-  press_button $tabs_to_colour || return 1
+  press_panel_button $tabs_to_colour || return 1
   xdotool key Home
   key Return
-  press_button $tabs_to_apply || return 1
+  press_panel_button $tabs_to_apply || return 1
   key ctrl+s
   expect "colours after Default" '14433340 - - ' "$(colours "$plan")" || return 1
 }
