@@ -326,7 +326,10 @@ int CanvasPanel::chooseAutofill(double gapMm, const std::vector<std::string>& ro
 int CanvasPanel::popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) {
   wxMenu menu;
   int taken = 0;
-  for (const MenuEntry& entry : entries) menu.Append(entry.id, wxString::FromUTF8(entry.label));
+  // Appended with these numbers, the toolkit would show shortcuts of its own that don't exist here.
+  for (const MenuEntry& entry : entries) {
+    menu.Append(wxID_ANY, wxString::FromUTF8(entry.label))->SetId(entry.id);
+  }
   menu.Bind(wxEVT_MENU, [&taken](wxCommandEvent& event) { taken = event.GetId(); });
   PopupMenu(&menu, at.x, at.y);
   return taken;

@@ -132,5 +132,17 @@ TEST_F(KeptPictures, ThePlanIsAtRestWhileGesturesOnlyDrawOverIt) {
   EXPECT_FALSE(isPlanAtRest(state));
 }
 
+TEST_F(KeptPictures, ATapePutAwayUnfinishedKeepsNoPictureOfAPlanThatIsDragged) {
+  key(WXK_ESCAPE);
+  layout.toolMode = kMeasureTool;
+  clickLeft(600, 400);
+  layout.toolMode = kNoTool;
+  EXPECT_TRUE(isPlanAtRest(state));
+  pressLeft(100, 120);
+  move(120, 150);
+  ASSERT_TRUE(state.selectionDrag.active);
+  EXPECT_FALSE(isPlanAtRest(state));
+}
+
 }  // namespace
 }  // namespace vantrel
