@@ -101,7 +101,7 @@ void TrackGLCanvas::bindEvents() {
   Bind(wxEVT_MOTION, &TrackGLCanvas::onMotion, this);
   Bind(wxEVT_MOUSEWHEEL, &TrackGLCanvas::onWheel, this);
   settled_.SetOwner(this);
-  Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Refresh(); });
+  Bind(wxEVT_TIMER, [this](wxTimerEvent&) { onSettled(); });
   Bind(wxEVT_KEY_DOWN, &TrackGLCanvas::onKey, this);
 }
 
@@ -114,6 +114,15 @@ void TrackGLCanvas::build(const vantrel::Layout& layout) {
 void TrackGLCanvas::Rebuild(const vantrel::Layout& layout) {
   changed_ = &layout;
   settled_.StartOnce(kSettleMs);
+}
+
+void TrackGLCanvas::onSettled() {
+  // A drag on the canvas that pauses goes on: it must not wait for a frame that few would look at.
+  const wxWindow* busy = GetCapture();
+  if (busy && busy != this)
+    settled_.StartOnce(kSettleMs);
+  else
+    Refresh();
 }
 
 void TrackGLCanvas::onPaint() {

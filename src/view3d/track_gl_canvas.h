@@ -26,8 +26,8 @@ class TrackGLCanvas : public wxGLCanvas {
   // A context came with the canvas. Without one it stays blank.
   bool hasContext() const;
 
-  // The layout changed. The scene is built anew and painted once a burst of changes is over, or
-  // before an earlier paint, and the layout must live until then.
+  // The layout changed. The scene is built anew and painted once a burst of changes is over and no
+  // other window holds the mouse, or before an earlier paint. The layout must live until then.
   void Rebuild(const vantrel::Layout& layout);
 
   const Scene& scene() const { return scene_; }
@@ -39,6 +39,7 @@ class TrackGLCanvas : public wxGLCanvas {
   void makeContext();
   void bindEvents();
   void build(const vantrel::Layout& layout);
+  void onSettled();
   void onPaint();
   void onPress(wxMouseEvent& event);
   void onMotion(wxMouseEvent& event);

@@ -144,6 +144,20 @@ TEST_F(View3D, ABurstOfChangesIsOneRebuild) {
   EXPECT_EQ(piecesShown(), 5u);
 }
 
+TEST_F(View3D, WaitsForTheEndOfADragOnTheCanvas) {
+  open();
+  showFrame();
+  pump();
+  ASSERT_FALSE(canvas().isStale());
+  frame().canvas().CaptureMouse();
+  addPiece();
+  frame().markDirty();
+  for (int i = 0; i < 5; ++i) pump();  // half a second
+  EXPECT_TRUE(canvas().isStale());
+  frame().canvas().ReleaseMouse();
+  EXPECT_EQ(piecesShown(), 1u);
+}
+
 TEST_F(View3D, WhatOnlyTheCanvasShowsKeepsTheZoomOfTheView) {
   addPiece();
   open();
