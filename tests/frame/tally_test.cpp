@@ -81,6 +81,15 @@ TEST_F(FrameTally, CountsBothPiecesOfAPair) {
                             "74618 Straight Ramp 180mm (pair) x 2"}));
 }
 
+TEST_F(FrameTally, CountsATurntableWithoutTheSpokesThatComeWithIt) {
+  show();
+  frame().canvas().beginPieceDrag("74861");
+  pointer(wxEVT_MOTION, wxPoint(200, 200));
+  pointer(wxEVT_LEFT_DOWN, wxPoint(200, 200));
+  ASSERT_EQ(plan().pieces.size(), 7u);
+  EXPECT_EQ(tally(), (Texts{"74861 Turntable (pit 278mm) x 1"}));
+}
+
 TEST_F(FrameTally, CountsSceneryThatIsDropped) {
   show();
   frame().canvas().beginSceneryDrag("72886");

@@ -249,6 +249,22 @@ TEST_F(CanvasWindow, RAndEscReachTheDrag) {
   EXPECT_TRUE(key(wxEVT_KEY_DOWN, WXK_ESCAPE));
 }
 
+TEST_F(CanvasWindow, DeleteAndBackspaceAreItsOwnCommandThatDeletesShapesToo) {
+  for (const int code : {WXK_DELETE, WXK_BACK}) {
+    wxKeyEvent pressed(wxEVT_KEY_DOWN);
+    pressed.m_keyCode = code;
+    EXPECT_EQ(canvas->GetAcceleratorTable()->GetCommand(pressed), 5038) << code;
+  }
+  workspace.document.shapes.resize(2);
+  workspace.document.shapes[1].sel = true;
+  wxCommandEvent command(wxEVT_MENU, 5038);
+  command.SetEventObject(canvas);
+  EXPECT_TRUE(canvas->HandleWindowEvent(command));
+  ASSERT_EQ(workspace.document.shapes.size(), 1u);
+  EXPECT_FALSE(workspace.document.shapes[0].sel);
+  EXPECT_EQ(workspace.dirtyMarks, 1);
+}
+
 TEST_F(CanvasWindow, SpaceHeldWithTheLeftButtonPans) {
   key(wxEVT_KEY_DOWN, WXK_SPACE);
   mouse(wxEVT_MOTION, 100, 100, true);

@@ -72,6 +72,7 @@ TEST_F(Deleting, ATurntableGoesWithItsSixSpokes) {
   const std::int32_t table = lay("74861", {600.0, 600.0, 0.0});
   addTurntableSpokes(layout, table);
   const std::int32_t apart = lay("24188", {0.0, 0.0, 0.0});
+  ASSERT_EQ(layout.pieces.size(), 8u);
   select({table});
   deleteFromCanvas(context);
   ASSERT_EQ(layout.pieces.size(), 1u);
@@ -88,6 +89,17 @@ TEST_F(Deleting, AWholeHelixGoesWithItsRecord) {
   Undo(layout);
   ASSERT_EQ(layout.helices.size(), 1u);
   EXPECT_EQ(layout.helices[0], helix);
+}
+
+TEST_F(Deleting, EitherKeyDeletesAHelixSelectedAsAWholeAndItsRecord) {
+  for (const int code : {WXK_DELETE, WXK_BACK}) {
+    const Helix helix = layHelix({600.0, 600.0});
+    select({helix.bottomR1, helix.bottomR2, helix.topR1, helix.topR2});
+    EXPECT_TRUE(key(code));
+    EXPECT_TRUE(host.boxes.empty());
+    EXPECT_TRUE(layout.pieces.empty());
+    EXPECT_TRUE(layout.helices.empty());
+  }
 }
 
 TEST_F(Deleting, AHelixWithOtherThingsIsLocked) {

@@ -73,13 +73,13 @@ TEST_F(ScaleHandles, AnEdgeHandleChangesItsAxisAndTheOppositeEdgeStays) {
   pressLeft(right(), 400);
   EXPECT_TRUE(host.captured);
   EXPECT_EQ(layout.undoHistory.size(), 1u);
-  const double fixed = 500.0 - width / 2.0;
+  // 230 wide from 385 to 615. From the left edge to 715 it is 330: 330 / 230 = 1.4347826 times as
+  // wide, with its middle at 385 + 165.
   move(right() + 100, 777);
-  EXPECT_NEAR(item().scalex, (right() + 100 - fixed) / width, 1e-9);
+  EXPECT_NEAR(item().scalex, 1.4347826, 1e-6);
   EXPECT_EQ(item().scaley, 1.0);
-  EXPECT_NEAR(item().x - item().scalex * width / 2.0, fixed, 1e-9);
+  EXPECT_NEAR(item().x, 550.0, 1e-9);
   EXPECT_NEAR(item().y, 400.0, 1e-9);
-  EXPECT_GT(item().x, 500.0);
   releaseLeft(right() + 100, 777);
   EXPECT_FALSE(host.captured);
   EXPECT_EQ(host.dirtyMarks, 2);
@@ -88,19 +88,17 @@ TEST_F(ScaleHandles, AnEdgeHandleChangesItsAxisAndTheOppositeEdgeStays) {
 
 TEST_F(ScaleHandles, ACornerOfATurnedItemChangesBothAxesInItsOwnFrame) {
   item().heading = 90.0;
-  // Handle 4 (both signs positive), turned by 90 degrees: (-depth / 2, width / 2) from the middle.
-  const int x = static_cast<int>(500.0 - depth / 2.0);
-  const int y = static_cast<int>(400.0 + width / 2.0);
-  pressLeft(x, y);
+  // 230 by 60. Handle 4 (both signs positive), at (115, 30) from the middle, is turned to
+  // (-30, 115): it lies at (470, 515), and the fixed corner at (530, 285).
+  pressLeft(470, 515);
   EXPECT_EQ(state.sceneryResize.handle, 4);
-  // The fixed corner lies at (500 + depth / 2, 400 - width / 2).
-  const Vec2 fixed{500.0 + depth / 2.0, 400.0 - width / 2.0};
-  move(static_cast<int>(fixed.x) - 50, static_cast<int>(fixed.y) + 300);
-  // 300 pixels down are its width, 50 to the left its depth, but for what whole pixels leave.
-  EXPECT_NEAR(item().scalex * width, 300.0, 1.0);
-  EXPECT_NEAR(item().scaley * depth, 50.0, 1.0);
-  EXPECT_NEAR(item().x, fixed.x - item().scaley * depth / 2.0, 1e-9);
-  EXPECT_NEAR(item().y, fixed.y + item().scalex * width / 2.0, 1e-9);
+  // 300 down is its width, 50 to the left its depth: 300 / 230 and 50 / 60. The new middle lies 150
+  // down and 25 to the left of the fixed corner.
+  move(480, 585);
+  EXPECT_NEAR(item().scalex, 1.3043478, 1e-6);
+  EXPECT_NEAR(item().scaley, 0.8333333, 1e-6);
+  EXPECT_NEAR(item().x, 505.0, 1e-9);
+  EXPECT_NEAR(item().y, 435.0, 1e-9);
 }
 
 TEST_F(ScaleHandles, AnItemStopsShrinkingAtFiveMillimetres) {
@@ -108,6 +106,23 @@ TEST_F(ScaleHandles, AnItemStopsShrinkingAtFiveMillimetres) {
   move(left() + 1, top() + 1);
   EXPECT_NEAR(item().scalex * width, 5.0, 1e-9);
   EXPECT_NEAR(item().scaley * depth, 5.0, 1e-9);
+  // The fixed corner at (385, 370) stays: the middle lies 2.5 to the right of it and below.
+  EXPECT_NEAR(item().x, 387.5, 1e-9);
+  EXPECT_NEAR(item().y, 372.5, 1e-9);
+  // At exactly 5 and at 6 it is as large as it is pulled.
+  move(left() + 5, top() + 6);
+  EXPECT_NEAR(item().scalex * width, 5.0, 1e-9);
+  EXPECT_NEAR(item().scaley * depth, 6.0, 1e-9);
+}
+
+TEST_F(ScaleHandles, PulledPastTheFixedCornerAnItemGrowsAgainOnItsOwnSideOfIt) {
+  pressLeft(right(), bottom());
+  // 46 to the left of the fixed corner at (385, 370) and 30 above it: 46 / 230 and 30 / 60.
+  move(339, 340);
+  EXPECT_NEAR(item().scalex, 0.2, 1e-9);
+  EXPECT_NEAR(item().scaley, 0.5, 1e-9);
+  EXPECT_NEAR(item().x, 408.0, 1e-9);
+  EXPECT_NEAR(item().y, 385.0, 1e-9);
 }
 
 TEST_F(ScaleHandles, APressTakesAnUndoStepEvenIfThePointerDoesNotMove) {

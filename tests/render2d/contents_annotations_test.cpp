@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
 
 #include "tests/render2d/contents_fixture.h"
 
@@ -135,9 +136,14 @@ TEST(ContentsTapes, ATapeToNowhereHasNoLength) {
 }
 
 TEST(ContentsTapes, TheLengthIsTheWorldDistanceInTheUnitsShown) {
-  Layout layout = WithTape({100, 100}, {400, 500});
-  layout.units = kCentimetres;
-  EXPECT_EQ(Texts(Painted(layout), "50.0 cm").size(), 1u);
+  Layout layout = WithTape({100, 100}, {400, 500});  // 300 across, 400 down: 500
+  const std::pair<std::int32_t, const char*> expected[] = {
+      {kMillimetres, "500 mm"}, {kCentimetres, "50.0 cm"}, {kInches, "19.69 in"}};
+  for (const auto& [units, text] : expected) {
+    layout.units = units;
+    EXPECT_EQ(Texts(Painted(layout), text).size(), 1u) << text;
+    EXPECT_EQ(OfOp(Painted(layout), DrawOp::text).size(), 1u) << text;
+  }
 }
 
 }  // namespace

@@ -189,6 +189,14 @@ TEST(ContentsHelix, LinkedTrackKeepsItsColourHighAboveTheGround) {
   EXPECT_EQ(BedOrder(layout), (std::vector<int>{1, 3, 5, 0, 2, 4, 255}));
 }
 
+TEST(ContentsHelix, LinkedTrackWithAGradeShowsItsHeight) {
+  Layout layout = HelixWithTrack();
+  for (Piece& piece : layout.pieces) piece.z = piece.id == 1 ? 0.0 : 60.0;
+  layout.pieces[2].grade = 2.0;   // piece 3, below
+  layout.pieces[3].grade = -2.0;  // piece 4, above
+  EXPECT_EQ(BedOrder(layout), (std::vector<int>{1, 255, 5, 0, 2, 255, 255}));
+}
+
 TEST(ContentsHelix, JointsToNowhereAndRingsOfTrackEndTheWalk) {
   Layout layout = HelixWithTrack();
   layout.pieces[4].joints[1] = {3, 1};   // 5 back to 3

@@ -192,10 +192,14 @@ TEST_F(GlCanvas, TakesRWithShiftAndInSmallAndLeavesOtherKeys) {
 }
 
 TEST_F(GlCanvas, TakesTheFocusWithAPress) {
-  wxFrame other(nullptr, wxID_ANY, "other");
-  press({100, 100}, true, false);
-  EXPECT_TRUE(canvas().AcceptsFocus());
-  mouse(wxEVT_LEFT_UP, {100, 100}, false, false);
+  for (const bool left : {true, false}) {
+    auto* other = new wxWindow(&view(), wxID_ANY, {0, 0}, {10, 10});
+    other->SetFocus();
+    ASSERT_EQ(wxWindow::FindFocus(), other);
+    press({100, 100}, left, !left);
+    EXPECT_EQ(wxWindow::FindFocus(), &canvas()) << left;
+    mouse(left ? wxEVT_LEFT_UP : wxEVT_RIGHT_UP, {100, 100}, false, false);
+  }
 }
 
 TEST_F(GlCanvas, RebuildsOnceBeforeTheNextPaintHoweverManyChangesCame) {

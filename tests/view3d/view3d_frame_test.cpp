@@ -52,10 +52,16 @@ TEST_F(Frame3D, ClosingDestroysIt) {
 
 TEST_F(Frame3D, ClosesWithAChangeThatWasNeverPainted) {
   addPiece("24188", 0.0, 0.0);
+  bool gone = false;
+  view().Bind(wxEVT_DESTROY, [&gone](wxWindowDestroyEvent& event) {
+    gone = true;
+    event.Skip();
+  });
   view().Rebuild(plan_);
+  ASSERT_TRUE(canvas().isStale());
   view_->Close();
   view_ = nullptr;
-  PumpEvents(50);
+  EXPECT_TRUE(PumpUntil([&gone] { return gone; }));
 }
 
 TEST_F(Frame3D, OpensAndClosesAgainAndAgain) {
