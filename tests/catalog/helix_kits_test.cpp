@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "catalog/track_catalog.h"
+
 namespace vantrel {
 namespace {
 
@@ -65,7 +67,9 @@ TEST(HelixKits, AnUnknownKitIsNotFoundAndFallsBackOnTheDefaultOne) {
 }
 
 TEST(HelixKits, EveryStubIsTheSameCTrackStraight) {
-  for (const HelixKit& kit : kits()) EXPECT_EQ(kit.stubPart, "24188");
+  ASSERT_EQ(kits().size(), 10u);
+  for (const HelixKit& kit : kits()) EXPECT_EQ(kit.stubPart, "24188") << kit.id;
+  EXPECT_EQ(findPart("24188")->system, TrackSystem::MarklinC);
 }
 
 }  // namespace

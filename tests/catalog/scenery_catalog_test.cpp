@@ -114,6 +114,8 @@ TEST(SceneryCatalog, FindsNothingUnderAnUnknownId) {
 TEST(SceneryCatalog, IsBuiltOnceAndStays) {
   EXPECT_EQ(&sceneryCatalog(), &sceneryCatalog());
   EXPECT_EQ(findScenery("car"), findScenery(std::string("car")));
+  EXPECT_EQ(findScenery("platform"), &sceneryCatalog()[0]) << "the row itself and not a copy";
+  EXPECT_EQ(findScenery("retaining_wall"), &sceneryCatalog()[38]);
 }
 
 TEST(SceneryCatalog, NamesItsCategories) {

@@ -35,6 +35,8 @@ TEST(TrackCatalog, IsBuiltOnceAndStaysWhereItIs) {
   const PieceDef* first = findPart("24188");
   EXPECT_EQ(&catalog(), &catalog());
   EXPECT_EQ(findPart("24188"), first);
+  EXPECT_EQ(first, catalog().pieceAt(0)) << "the row itself and not a copy";
+  EXPECT_EQ(findPart("7267"), catalog().pieceAt(166));
 }
 
 TEST(TrackCatalog, NumbersConnectorsFromZeroAndMakesAllConnectable) {

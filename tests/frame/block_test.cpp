@@ -145,6 +145,24 @@ TEST_F(Blocks, ABlockJustSavedDoesNotShowUpButOneWithItsExtensionChangedDoesAndP
   EXPECT_EQ(plan().pieces.size(), 2u);
 }
 
+TEST_F(Blocks, APieceSavedAt30MmOnAGradeIsPlacedFlatOnTheGround) {
+  Piece& raised = addPiece();
+  raised.sel = true;
+  raised.z = 30.0;
+  raised.grade = 2.5;
+  saveUnder("Yard");
+  const std::string file = ReadFileText(library("Yard.xml"));
+  EXPECT_NE(file.find("z=\"30.0000\" grade=\"2.5000\""), std::string::npos) << "what was saved";
+  fs::rename(library("Yard.xml"), library("Yard.vtl"));
+  frame().palette().RefreshLibrary();
+  DoubleClickRow(list(), 0);
+  ASSERT_EQ(plan().pieces.size(), 2u);
+  EXPECT_EQ(plan().pieces[1].z, 0.0);
+  EXPECT_EQ(plan().pieces[1].grade, 0.0);
+  EXPECT_EQ(plan().pieces[0].z, 30.0) << "the piece that was saved stays as it is";
+  EXPECT_EQ(plan().pieces[0].grade, 2.5);
+}
+
 TEST_F(Blocks, PlacingFitsTheViewToTheTrackAndNotToTheBaseboard) {
   frame();
   fs::create_directories(library(""));

@@ -125,6 +125,21 @@ TEST_F(CommandHandlers, UndoAndRedoAreOfferedWhileTheirHistoryLasts) {
   EXPECT_TRUE(tool(2003).IsEnabled());
 }
 
+TEST_F(CommandHandlers, AfterAnUndoTheNextEditTakesRedoAway) {
+  PushUndo(plan());
+  addPiece().sel = true;
+  command(2002);
+  updateStates();
+  EXPECT_TRUE(menuEnabled(2003));
+  addPiece().sel = true;
+  command(2004);
+  updateStates();
+  EXPECT_TRUE(plan().pieces.empty());
+  EXPECT_TRUE(menuEnabled(2002));
+  EXPECT_FALSE(menuEnabled(2003));
+  EXPECT_FALSE(tool(2003).IsEnabled());
+}
+
 TEST_F(CommandHandlers, UndoAndRedoStepThroughHistoryAndMarkTheLayoutChanged) {
   PushUndo(plan());
   addPiece();
@@ -138,7 +153,7 @@ TEST_F(CommandHandlers, UndoAndRedoStepThroughHistoryAndMarkTheLayoutChanged) {
   EXPECT_EQ(statusText(kStatusPieces), "Pieces: 1");
 }
 
-TEST_F(CommandHandlers, UndoAndRedoMarkTheLayoutChangedEvenWithoutAHistory) {
+TEST_F(CommandHandlers, UndoMarksTheLayoutChangedEvenWithoutAHistory) {
   command(2002);
   EXPECT_TRUE(frame().dirty());
 }

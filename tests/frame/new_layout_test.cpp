@@ -2,6 +2,7 @@
 
 #include "canvas/canvas_panel.h"
 #include "doc/layout_ops.h"
+#include "io/layout_file.h"
 #include "tests/frame/frame_fixture.h"
 
 namespace vantrel {
@@ -55,6 +56,35 @@ TEST_F(NewLayout, InMidDragEndsTheDragSoThatTheEmptyLayoutStaysClean) {
   mouseOnCanvas(wxEVT_MOTION, {100, 260}, true);
   mouseOnCanvas(wxEVT_LEFT_UP, {100, 260}, false);
   EXPECT_FALSE(frame().dirty());
+}
+
+TEST_F(NewLayout, OneYesToMovingGradedTrackHoldsForEveryLaterLayoutToo) {
+  // Pressed at (100, 0) under the first view, 0.4 from (60, 60); 100 pixels down are 250 mm.
+  const auto dragDown = [this] {
+    dragOnCanvas({100, 60}, {100, 160});
+    mouseOnCanvas(wxEVT_LEFT_UP, {100, 160}, false);
+    return plan().pieces.at(0).y;
+  };
+  addPiece().grade = 2.0;
+  showFrame();
+  ModalScript script;
+  script.box("Move",
+             "Selection includes graded pieces. Moving will break joints and leave the chain's "
+             "elevation inconsistent.\n\nMove anyway? (This warning will not appear again this "
+             "session.)",
+             wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION, wxID_YES);
+  EXPECT_EQ(dragDown(), 250.0);
+  script.dialog("Unsaved Changes", wxID_NO);
+  command(5002);
+  addPiece().grade = 3.0;
+  EXPECT_EQ(dragDown(), 250.0);
+
+  Layout other;
+  other.pieces = {{.id = 1, .cat = "24188", .grade = -2.0}};
+  ASSERT_EQ(SaveLayoutFile(other, inStore("other.vtl"), "other"), "");
+  frame().LoadIntoFrame(inStore("other.vtl"));
+  frame().canvas().resetView();
+  EXPECT_EQ(dragDown(), 250.0);
 }
 
 TEST_F(NewLayout, CloseDoesTheSame) {

@@ -171,6 +171,19 @@ TEST_F(Open, ShowsTheGradeRunsOfTheFile) {
   EXPECT_EQ(statusText(kStatusMessage), "[ELEV] 2.5 deg -3.0 deg  (right-click piece to stop)");
 }
 
+TEST_F(Open, KeepsTheGradeRunsOfTheLayoutBeforeUnlessItWasEmptiedFirst) {
+  put("a");
+  plan().gradeRuns = {{2.5, 1, 1}};
+  openRow(0);
+  EXPECT_EQ(plan().gradeRuns.size(), 1u);
+  EXPECT_EQ(statusText(kStatusMessage), "[ELEV] 2.5 deg  (right-click piece to stop)");
+  command(5002);
+  openRow(0);
+  EXPECT_TRUE(plan().gradeRuns.empty());
+  EXPECT_FALSE(plan().currentGrade.active);
+  EXPECT_EQ(statusText(kStatusMessage), "Ready");
+}
+
 TEST_F(Open, KeepsTheHistorySoThatUndoBringsThePreviousPiecesIntoTheOpenedWindow) {
   put("a");
   addPiece("24172");

@@ -48,6 +48,14 @@ TEST_F(AutofillDialogTest, StartsOnItsFirstRowWithTheKeyboardInTheList) {
   AutofillDialog dialog(frame, 188.3, rows);
   EXPECT_EQ(dialog.row(), 0);
   EXPECT_EQ(listOf(dialog).GetWindowStyle() & (wxLB_MULTIPLE | wxLB_EXTENDED), 0);
+  bool listHasFocus = false;
+  ModalScript script;
+  script.shown("Autofill Gap", [&](wxDialog& shown) {
+    listHasFocus = listOf(shown).HasFocus();
+    shown.EndModal(wxID_CANCEL);
+  });
+  dialog.ShowModal();
+  EXPECT_TRUE(listHasFocus);
 }
 
 TEST_F(AutofillDialogTest, IsResizableAndOfItsSizeWhateverTheRowsHold) {
@@ -90,6 +98,16 @@ TEST_F(AutofillDialogTest, ADoubleClickPlacesTheRow) {
   });
   EXPECT_EQ(dialog.ShowModal(), wxID_OK);
   EXPECT_EQ(dialog.row(), 2);
+}
+
+TEST_F(AutofillDialogTest, CancelEndsItWithoutPlacing) {
+  AutofillDialog dialog(frame, 188.3, rows);
+  ModalScript script;
+  script.shown("Autofill Gap", [](wxDialog& shown) {
+    wxCommandEvent click(wxEVT_BUTTON, wxID_CANCEL);
+    FindControls<wxButton>(shown).at(1)->ProcessWindowEvent(click);
+  });
+  EXPECT_EQ(dialog.ShowModal(), wxID_CANCEL);
 }
 
 TEST_F(AutofillDialogTest, TellsWhenNoRowIsSelected) {

@@ -87,7 +87,7 @@ class GradedDrag : public EditingTest {
 };
 
 TEST_F(GradedDrag, NoLeavesAllJointsIntactAndAsksAgainNextTime) {
-  const Piece before = piece(chain[0]);
+  const std::vector<Piece> before = layout.pieces;
   host.answer = false;
   dragLeft(150, 100, 250, 300);
   ASSERT_EQ(host.boxes.size(), 1u);
@@ -97,9 +97,12 @@ TEST_F(GradedDrag, NoLeavesAllJointsIntactAndAsksAgainNextTime) {
             "elevation inconsistent.\n\nMove anyway? (This warning will not appear again this "
             "session.)");
   EXPECT_EQ(host.defaults, std::vector<bool>{false});
-  EXPECT_EQ(piece(chain[0]).joints, before.joints);
-  EXPECT_EQ(piece(chain[0]).pose(), before.pose());
+  EXPECT_EQ(JointOf(layout, chain[0], 1), (Joint{chain[1], 0}));
+  EXPECT_EQ(JointOf(layout, chain[1], 0), (Joint{chain[0], 1}));
+  EXPECT_EQ(piece(chain[0]).pose(), before[0].pose());
   EXPECT_EQ(selected(), Ids{chain[0]});
+  select({});
+  EXPECT_EQ(layout.pieces, before);
   EXPECT_TRUE(layout.undoHistory.empty());
   dragLeft(150, 100, 250, 300);
   EXPECT_EQ(host.boxes.size(), 2u);

@@ -64,6 +64,19 @@ TEST_F(ViewNavigation, OneWheelStepInFromAFittedScaleOf01JumpsTo03) {
   expectView(0.3, -200.0, -100.0);
 }
 
+TEST_F(ViewNavigation, ALayoutFittedTo01IsAt03AfterOneWheelStepIn) {
+  // 10 m wide: 1000 pixels between the margins are a tenth of a pixel to the millimetre, and the
+  // middle of the height lies at 80 + 640 / 2 = 400.
+  Shape& river = layout.shapes.emplace_back();
+  river.vertices = {{0.0, 0.0}, {10000.0, 0.0}, {10000.0, 0.0}};
+  zoomToFit(context, false);
+  expectView(0.1, 80.0, 399.95);
+  // The left end stays where it is: (80 - 80) / 0.1 = 0.
+  wheel(80, 400, kNotch);
+  EXPECT_NEAR(state.view.scale, 0.3, 1e-9);
+  EXPECT_NEAR(state.view.offsetX, 80.0, 1e-6);
+}
+
 TEST_F(ViewNavigation, TheWheelStepsBy15PercentAndBack) {
   wheel(60, 60, 1);
   expectView(0.46, 60.0, 60.0);

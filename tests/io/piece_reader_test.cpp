@@ -80,6 +80,15 @@ TEST(PieceReader, JointSlotsOpenUpToTheOneThatIsNamed) {
          "piece";
 }
 
+TEST(PieceReader, APieceWithAJointInSlot2AloneHasSlots0And1PresentAndOpen) {
+  const Layout layout = Loaded(
+      "<pieces>\n<piece id=\"1\" cat=\"24611\" x=\"0\" y=\"0\" heading=\"0\">\n"
+      "<joint conn=\"2\" target=\"7\" tconn=\"1\"/>\n</piece>\n</pieces>\n");
+  ASSERT_EQ(layout.pieces.size(), 1u);
+  EXPECT_EQ(layout.pieces[0].joints,
+            (std::vector<Joint>{{.target = -1, .tconn = -1}, {.target = -1, .tconn = -1}, {7, 1}}));
+}
+
 TEST(PieceReader, AJointWithoutConnTakesTheNumberOfItsFarEnd) {
   const Layout layout = Loaded(
       "<pieces>\n<piece id=\"1\" cat=\"a\" x=\"0\" y=\"0\" heading=\"0\">\n<joint target=\"7\" "

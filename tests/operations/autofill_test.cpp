@@ -218,6 +218,7 @@ TEST_F(Autofill, NeverOffersPiecesWithAFunctionOrBridges) {
   layout.pieces[0].cat = layout.pieces[1].cat = "2200";  // 180 mm long
   layout.pieces[0].x = -180.0;
   layout.pieces[1].x = 180.0;
+  EXPECT_EQ(offered().at(0), Parts{"2200"});
   for (const Parts& row : offered())
     for (const std::string& part : row)
       for (const char* never : {"2290", "2291", "2292", "2295", "2297", "2299", "7262", "7263"})

@@ -156,6 +156,8 @@ TEST(BlockSnap, FindsNothingWhileSnappingIsOff) {
   LaySelected(layout, "24188", {190.0, 0.0, 0.0});
   layout.snapEnabled = false;
   EXPECT_FALSE(findBlockSnap(layout).snap.found);
+  layout.snapEnabled = true;
+  EXPECT_TRUE(findBlockSnap(layout).snap.found);
 }
 
 TEST(BlockSnap, KeepsTheLimitsOfTheSnapSearch) {

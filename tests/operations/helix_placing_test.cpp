@@ -84,6 +84,7 @@ TEST(PlaceHelix, GivesEachStubTwoOpenEndsOnTheGroundLevel) {
   Layout layout;
   layout.activeLevel = 3;
   placeHelix(layout, {500.0, 500.0}, 0.0, "proses_2_5_r2r3");
+  ASSERT_EQ(layout.pieces.size(), 4u);
   for (const Piece& stub : layout.pieces) {
     EXPECT_EQ(stub.cat, "24188");
     EXPECT_EQ(stub.helix, 1);

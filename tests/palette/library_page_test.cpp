@@ -156,6 +156,7 @@ TEST_F(LibraryPage, ADoubleClickPlacesTheWholeBlockAtTheWorldOrigin) {
 TEST_F(LibraryPage, ASelectedPieceWithAHeightAndASlopeIsPlacedFlat) {
   add("Yard.vtl", kYard);
   place(0);
+  ASSERT_EQ(workspace.document.pieces.size(), 2u);
   for (const Piece& piece : workspace.document.pieces) {
     EXPECT_EQ(piece.z, 0.0);
     EXPECT_EQ(piece.grade, 0.0);
