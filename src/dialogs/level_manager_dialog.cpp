@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <string>
 
+#include "app/services/box_text.h"
 #include "canvas/operations/level_edits.h"
 #include "dialogs/dialog_layout.h"
 #include "dialogs/level_properties_dialog.h"
@@ -30,6 +31,8 @@ constexpr const char* kIntroduction =
     "for new pieces.";
 
 enum Column : int { kNameColumn = 0, kHeightColumn = 1, kColourColumn = 2, kIdColumn = 3 };
+constexpr int kIdWidth = 40;
+constexpr int kCellPadding = 16;
 
 // A box is as high as its text, and no name may push its buttons off the screen.
 constexpr std::size_t kShownNameLength = 200;
@@ -70,7 +73,7 @@ void LevelManagerDialog::build() {
   list_->AppendColumn("Level Name", wxLIST_FORMAT_LEFT, 200);
   list_->AppendColumn("Height", wxLIST_FORMAT_RIGHT, 90);
   list_->AppendColumn("Track Color", wxLIST_FORMAT_LEFT, 90);
-  list_->AppendColumn("ID", wxLIST_FORMAT_RIGHT, 40);
+  list_->AppendColumn("ID", wxLIST_FORMAT_RIGHT, kIdWidth);
   column->Add(list_, 1, wxEXPAND | wxLEFT | wxRIGHT, kBorder);
   column->Add(buildButtons(), 0, wxEXPAND | wxALL, kBorder);
   FitAtLeast(*this, column, kDialogSize);
@@ -132,7 +135,21 @@ void LevelManagerDialog::fill() {
   list_->DeleteAllItems();
   for (std::size_t row = 0; row < layout_.levels.size(); ++row) showRow(row);
   markActive();
+  makeRoomForIds();
   filling_ = false;
+}
+
+// A cut number would be another number.
+void LevelManagerDialog::makeRoomForIds() {
+  int width = kIdWidth;
+  const wxFont bold = list_->GetFont().Bold();
+  for (const Level& level : layout_.levels) {
+    int text = 0;
+    int height = 0;
+    list_->GetTextExtent(std::to_string(level.id), &text, &height, nullptr, nullptr, &bold);
+    width = std::max(width, text + kCellPadding);
+  }
+  list_->SetColumnWidth(kIdColumn, width);
 }
 
 void LevelManagerDialog::showRow(std::size_t row) {
@@ -196,7 +213,7 @@ void LevelManagerDialog::onRemove() {
   const std::optional<std::size_t> row = selectedRow();
   if (!row) return;
   const std::string question = RemovalQuestion(layout_.levels[*row], levelContents(layout_, *row));
-  wxMessageDialog dialog(this, ToWx(question), ToWx("Remove Level — Confirm Deletion"),
+  wxMessageDialog dialog(this, BoxText(ToWx(question)), ToWx("Remove Level — Confirm Deletion"),
                          wxOK | wxCANCEL | wxCANCEL_DEFAULT | wxICON_WARNING);
   dialog.SetOKCancelLabels("Delete Level && Contents", "Cancel");
   if (dialog.ShowModal() != wxID_OK) return;

@@ -27,6 +27,7 @@ class LevelManagerDialog : public wxDialog {
   void fill();
   void showRow(std::size_t row);
   void markActive();
+  void makeRoomForIds();
   std::optional<std::size_t> selectedRow() const;
   void selectRow(std::size_t row);
   bool takeListKey(int key);

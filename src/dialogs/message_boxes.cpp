@@ -2,13 +2,14 @@
 
 #include <wx/msgdlg.h>
 
+#include "app/services/box_text.h"
 #include "dialogs/text.h"
 
 namespace vantrel {
 namespace {
 
 int Box(wxWindow* parent, const std::string& title, const std::string& text, long style) {
-  return wxMessageBox(ToWx(text), ToWx(title), style, parent);
+  return wxMessageBox(BoxText(ToWx(text)), ToWx(title), style, parent);
 }
 
 }  // namespace

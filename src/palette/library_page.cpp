@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "app/services/box_text.h"
 #include "canvas/operations/block_placing.h"
 #include "io/block_file.h"
 #include "palette/block_library.h"
@@ -48,7 +49,7 @@ void PalettePanel::placeSelectedBlock() {
   std::string name;
   const std::string problem = LoadBlockFile(path, name, block.pieces, block.scenery);
   if (!problem.empty()) {
-    wxMessageBox(Text(problem), "Load Block Failed", wxOK | wxICON_ERROR,
+    wxMessageBox(BoxText(Text(problem)), "Load Block Failed", wxOK | wxICON_ERROR,
                  wxGetTopLevelParent(this));
     return;
   }
@@ -86,13 +87,14 @@ int PalettePanel::chooseFrom(wxMenu& menu) {
 void PalettePanel::deleteBlock(const std::string& path) {
   wxWindow* const parent = wxGetTopLevelParent(this);
   const wxString question =
-      Text("Delete library block \"" + blockTitle(path) + "\"?\n\nThis cannot be undone.");
+      BoxText(Text("Delete library block \"" + blockTitle(path) + "\"?\n\nThis cannot be undone."));
   if (wxMessageBox(question, "Delete Library Block", wxYES_NO | wxICON_WARNING, parent) != wxYES)
     return;
   if (removeBlockFile(path))
     RefreshLibrary();
   else
-    wxMessageBox(Text("Could not delete:\n" + path), "Delete Failed", wxOK | wxICON_ERROR, parent);
+    wxMessageBox(BoxText(Text("Could not delete:\n" + path)), "Delete Failed", wxOK | wxICON_ERROR,
+                 parent);
 }
 
 }  // namespace vantrel

@@ -7,6 +7,8 @@
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
 
+#include <limits>
+
 #include "tests/dialogs/dialog_fixture.h"
 
 namespace vantrel {
@@ -134,6 +136,36 @@ TEST_F(LevelManager, ListsTheLevelsInTheirOrder) {
   EXPECT_FALSE(plan_.levels[2].visible) << "filling the list is no check";
 }
 
+TEST_F(LevelManager, TheColumnOfIdsHasRoomForTheLongest) {
+  for (const std::int32_t id :
+       {1000, std::numeric_limits<std::int32_t>::max(), std::numeric_limits<std::int32_t>::min()}) {
+    plan_.levels[0].id = id;
+    plan_.activeLevel = id;
+    LevelManagerDialog manager(parent_, plan_);
+    wxListCtrl& list = ListOf(manager);
+    const wxFont bold = list.GetFont().Bold();
+    int width = 0;
+    int height = 0;
+    list.GetTextExtent(std::to_string(id), &width, &height, nullptr, nullptr, &bold);
+    EXPECT_GE(list.GetColumnWidth(3), width + 8) << id;
+  }
+}
+
+TEST_F(LevelManager, AThousandLevelsWithNamesOfAnyLengthAreListedAndChosen) {
+  plan_.levels.clear();
+  for (std::int32_t id = 1; id <= 1000; ++id) {
+    plan_.levels.emplace_back().id = id;
+    plan_.levels.back().name = std::string(static_cast<std::size_t>(id) * 10, 'x');
+  }
+  EXPECT_EQ(ListOf(dialog()).GetItemCount(), 1000);
+  EXPECT_EQ(dialog().GetSize(), wxSize(500, 360));
+  Select(dialog(), 999);
+  EXPECT_EQ(plan_.activeLevel, 1000);
+  script_.dialog("Level Properties: " + std::string(10000, 'x'), wxID_OK);
+  Activate(dialog(), 999);
+  EXPECT_EQ(plan_.levels[999].name.size(), 10000u);
+}
+
 // 50 / 25.4 = 1.9685
 TEST_F(LevelManager, ShowsAHeightInTheUnit) {
   const char* shown[] = {"50 mm", "5.0 cm", "1.97 in"};
@@ -258,13 +290,22 @@ TEST_F(LevelManager, TheQuestionHasItsOwnTwoAnswers) {
 }
 
 TEST_F(LevelManager, TheQuestionShortensANameThatWouldPushItsButtonsOffTheScreen) {
-  plan_.levels[1].name = std::string(200, 'x');
-  plan_.levels[2].name = std::string(201, 'y');
+  std::string name;
+  while (name.size() < 200) name += "deck ";
+  plan_.levels[1].name = name;
+  plan_.levels[2].name = name + "y";
   Select(dialog(), 1);
-  remove(RemovalText(std::string(200, 'x'), 0, 0, 0), wxID_CANCEL);
+  remove(RemovalText(name, 0, 0, 0), wxID_CANCEL);
   Select(dialog(), 2);
-  remove(RemovalText(std::string(200, 'y') + "\xE2\x80\xA6", 0, 0, 0), wxID_CANCEL);
+  remove(RemovalText(name + "\xE2\x80\xA6", 0, 0, 0), wxID_CANCEL);
   EXPECT_EQ(plan_.levels.size(), 3u);
+}
+
+TEST_F(LevelManager, TheQuestionBreaksAWordThatIsTooLongForALine) {
+  plan_.levels[1].name = std::string(100, 'x');
+  Select(dialog(), 1);
+  // The quotation mark is the first of the sixty letters of a line.
+  remove(RemovalText(std::string(59, 'x') + "\u200b" + std::string(41, 'x'), 0, 0, 0), wxID_CANCEL);
 }
 
 TEST_F(LevelManager, AfterARemovalTheNextLevelFollowsTheHighestId) {

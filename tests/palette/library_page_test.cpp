@@ -247,6 +247,19 @@ TEST_F(LibraryPage, DeleteAsksAndRemovesTheFileAndItsRow) {
   EXPECT_EQ(workspace.changes, Texts{});
 }
 
+// Without a blank the box would be wider than the screen, and its Yes out of reach.
+TEST_F(LibraryPage, TheQuestionBreaksAWordThatIsTooLongForALine) {
+  add(std::string(100, 'n') + ".vtl", kYard);
+  library->SetSelection(0);
+  panel->choice = 6001;
+  ModalScript script;
+  script.box("Delete Library Block",
+             "Delete library block \"" + std::string(59, 'n') + "\u200b" + std::string(41, 'n') +
+                 "\"?\n\nThis cannot be undone.",
+             kDeleteBox, wxID_NO);
+  askForMenu();
+}
+
 TEST_F(LibraryPage, AnAnswerOtherThanYesKeepsTheFile) {
   add("Yard.vtl", kYard);
   library->SetSelection(0);
