@@ -96,9 +96,10 @@ void LevelPropertiesDialog::buildHeight(wxFlexGridSizer& grid) {
 
 LevelProperties LevelPropertiesDialog::properties() const {
   const double shown = heightSpin_->GetValue();
+  const bool leftAlone = shown == shownHeight_ && std::isfinite(height_);
   const wxColour colour = colour_->GetColour();
   return {.name = ToUtf8(name_->GetValue()),
-          .height = shown == shownHeight_ ? height_ : shown * unit_.mm,
+          .height = leftAlone ? height_ : shown * unit_.mm,
           .trackcolor = trackColour_->GetValue(),
           .r = colour.Red(),
           .g = colour.Green(),

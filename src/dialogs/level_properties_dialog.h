@@ -21,7 +21,7 @@ class LevelPropertiesDialog : public wxDialog {
   LevelPropertiesDialog(wxWindow* parent, const Level& level, const ShownUnit& unit);
 
   // What stands in the fields. A height that the user left alone is the level's own, to the last
-  // digit.
+  // digit, unless that is not finite.
   LevelProperties properties() const;
 
  private:

@@ -75,6 +75,19 @@ TEST_F(LevelPropertiesPage, AHeightOfNoNumberIsShownAsZero) {
   EXPECT_EQ(HeightOf(dialog).GetValue(), 0.0);
 }
 
+// The track of the level would go to no height at all.
+TEST_F(LevelPropertiesPage, AHeightThatIsNoFiniteNumberBecomesTheOneThatIsShown) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  const auto accepted = [this](double height, std::int32_t units) {
+    level_.height = height;
+    return LevelPropertiesDialog(parent_, level_, unit(units)).properties().height;
+  };
+  EXPECT_EQ(accepted(std::numeric_limits<double>::quiet_NaN(), kMillimetres), 0.0);
+  EXPECT_EQ(accepted(-kInfinity, kCentimetres), 0.0);
+  EXPECT_EQ(accepted(kInfinity, kMillimetres), 10000.0);
+  EXPECT_NEAR(accepted(kInfinity, kInches), 10160.0, 1e-9);  // 400 * 25.4
+}
+
 TEST_F(LevelPropertiesPage, AnEmptyHeightIsToldAndTheDialogStays) {
   ModalScript script;
   script.shown("Level Properties: Deck", [&script](wxDialog& dialog) {
