@@ -1,5 +1,6 @@
 #include "doc/trimmed.h"
 
+#include <algorithm>
 #include <array>
 
 namespace vantrel {
@@ -29,6 +30,13 @@ std::string_view Trimmed(std::string_view text) {
   while (const std::size_t size = BlankAtFront(text)) text.remove_prefix(size);
   while (const std::size_t size = BlankAtEnd(text)) text.remove_suffix(size);
   return text;
+}
+
+std::string OneLine(std::string_view name) {
+  std::string line(name);
+  std::ranges::replace_if(
+      line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+  return line;
 }
 
 }  // namespace vantrel

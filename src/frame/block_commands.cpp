@@ -10,6 +10,7 @@
 #include "canvas/operations/selection.h"
 #include "dialogs/message_boxes.h"
 #include "dialogs/text.h"
+#include "doc/trimmed.h"
 #include "frame/main_frame.h"
 #include "frame/store_folder.h"
 #include "io/block_file.h"
@@ -24,6 +25,13 @@ const char* const kTitle = "Save Block";
 // extension.
 const char* const kSavedExtension = ".xml";
 
+// A name with a folder in it could lead out of the library, and to a plan that it would replace.
+std::string WriteBlock(const Layout& layout, const std::string& folder, const std::string& name) {
+  const std::string path = PathIn(folder, name) + kSavedExtension;
+  if (Utf8Path(name).has_parent_path()) return "Cannot open file: " + path;
+  return SaveBlockFile(layout, path, name);
+}
+
 }  // namespace
 
 void MainFrame::onSaveBlock(wxCommandEvent&) {
@@ -34,13 +42,13 @@ void MainFrame::onSaveBlock(wxCommandEvent&) {
   }
   wxTextEntryDialog dialog(this, "Block name:", "Save Library Block");
   if (dialog.ShowModal() != wxID_OK) return;
-  const std::string name = ToUtf8(dialog.GetValue());
+  const std::string name = OneLine(ToUtf8(dialog.GetValue()));
   if (name.empty()) return;
   const std::string folder = palette_->libraryFolder();
   // Where it can't be made, writing the file says so.
   std::error_code error;
   std::filesystem::create_directories(Utf8Path(folder), error);
-  const std::string problem = SaveBlockFile(layout_, PathIn(folder, name) + kSavedExtension, name);
+  const std::string problem = WriteBlock(layout_, folder, name);
   if (!problem.empty()) {
     ReportError(this, "Save Block Failed", problem);
     return;

@@ -114,6 +114,51 @@ TEST_F(Blocks, ANameThatTheFileSystemRefusesIsReported) {
   EXPECT_TRUE(script.finished());
 }
 
+// What lies there may be a plan: older ones have the same extension.
+TEST_F(Blocks, ANameThatLeadsElsewhereIsReportedAndNothingIsWrittenThere) {
+  addPiece().sel = true;
+  WriteFileText(inStore("Plan.xml"), "a plan");
+  fs::create_directories(library("north"));
+  for (const std::string name : {"../../Plan", "north/south", "north/"}) {
+    ModalScript script;
+    script.dialog("Save Library Block", wxID_OK, typed(name));
+    script.box("Save Block Failed", "Cannot open file: " + library(name + ".xml"), kErrorBox,
+               wxID_OK);
+    save();
+  }
+  EXPECT_EQ(ReadFileText(inStore("Plan.xml")), "a plan");
+  EXPECT_TRUE(fs::is_empty(library("north")));
+}
+
+TEST_F(Blocks, ANameOfDotsIsAnOrdinaryName) {
+  addPiece().sel = true;
+  for (const std::string name : {"..", ".north", "a..b"}) {
+    saveUnder(name);
+    EXPECT_TRUE(fs::exists(library(name + ".xml"))) << name;
+  }
+}
+
+TEST_F(Blocks, APastedNameOfTwoLinesIsKeptOnOne) {
+  addPiece().sel = true;
+  ModalScript script;
+  script.dialog("Save Library Block", wxID_OK, typed("North\nyard\r\n"));
+  script.box("Save Block", "Block saved: North yard  ", kInformationBox, wxID_OK);
+  save();
+  EXPECT_NE(ReadFileText(library("North yard  .xml")).find("<block name=\"North yard  \""),
+            std::string::npos);
+}
+
+TEST_F(Blocks, ANameTooLongForAFileIsReportedInABoxThatFitsTheScreen) {
+  addPiece().sel = true;
+  ModalScript script;
+  script.dialog("Save Library Block", wxID_OK, typed(std::string(10000, 'n')));
+  script.dialog("Save Block Failed", wxID_OK);
+  save();
+  ASSERT_EQ(script.boxTexts().size(), 1u);
+  EXPECT_LT(script.boxTexts()[0].size(), 1300u);
+  EXPECT_TRUE(script.boxTexts()[0].starts_with("Cannot open file: "));
+}
+
 TEST_F(Blocks, AFolderThatCannotBeMadeIsReported) {
   makeStoreUnwritable();
   addPiece().sel = true;

@@ -2,6 +2,7 @@
 #include <wx/button.h>
 #include <wx/choice.h>
 #include <wx/listctrl.h>
+#include <wx/textctrl.h>
 #include <wx/toolbar.h>
 
 #include "canvas/canvas_panel.h"
@@ -58,6 +59,19 @@ TEST_F(LayoutDialogs, AChosenShapeBecomesTheBaseboardAndMarksTheLayoutChanged) {
 TEST_F(LayoutDialogs, ClearTakesTheBaseboardAway) {
   plan().baseboard = kTable;
   chooseShape(6, "Apply");
+  EXPECT_TRUE(plan().baseboard.empty());
+  EXPECT_TRUE(frame().dirty());
+}
+
+TEST_F(LayoutDialogs, ACustomPageLeftEmptyTakesTheBaseboardAway) {
+  plan().baseboard = kTable;
+  ModalScript script;
+  plan().lastShape.id = 4;
+  script.shown("Layout Baseboard", [](wxDialog& dialog) {
+    FindControl<wxTextCtrl>(dialog)->SetValue("");
+    Press(dialog, "Apply");
+  });
+  command(kCmdLayoutShape);
   EXPECT_TRUE(plan().baseboard.empty());
   EXPECT_TRUE(frame().dirty());
 }

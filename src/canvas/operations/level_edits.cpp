@@ -39,14 +39,6 @@ const Rgb& NewLevelColour(std::int32_t id) {
   return kNewLevelColours[static_cast<std::size_t>(turn)];
 }
 
-// A level's record is one line of the file.
-std::string OneLine(std::string_view name) {
-  std::string line(name);
-  std::ranges::replace_if(
-      line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
-  return line;
-}
-
 // A file can hold pieces and helices whose id is the number for "none": nothing belongs to them.
 IdSet HelicesOnLevel(const Layout& layout, std::int32_t levelId) {
   const PieceIndex index = IndexPieces(layout);
