@@ -96,6 +96,7 @@ TEST(StartGrade, TakesNoUndoStepSoThatUndoRestoresTheEarlierOne) {
   Undo(layout);
   EXPECT_TRUE(layout.labels.empty());
   EXPECT_EQ(PieceOf(layout, piece).grade, 2.0) << "the step before the label knew the first grade";
+  ASSERT_EQ(layout.gradeRuns.size(), 1u);
   EXPECT_EQ(layout.gradeRuns[0].deg, 2.0);
 }
 
