@@ -77,6 +77,7 @@ TEST_F(Tunnels, APortalStandsOnLevel1UnscaledWhateverTheTrackIs) {
   select({1, 2});
   const std::vector<Piece> before = layout.pieces;
   toggleTunnel(layout);
+  ASSERT_EQ(layout.scenery.size(), 2u);
   for (const SceneryItem& portal : layout.scenery) {
     EXPECT_EQ(portal.level, 1);
     EXPECT_EQ(portal.scalex, 1.0);

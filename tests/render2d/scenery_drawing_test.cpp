@@ -323,8 +323,9 @@ TEST(SceneryItem, ASelectedItemIsFramedByItsScaledFootprintAfterAllElse) {
 }
 
 TEST(SceneryItem, AnUnselectedItemHasNoFrame) {
-  for (const DrawCall& call : Draw(*findScenery("car"), {}))
-    EXPECT_NE(call.pen.style, wxPENSTYLE_DOT);
+  const std::vector<DrawCall> calls = Draw(*findScenery("car"), {});
+  ASSERT_FALSE(calls.empty());
+  for (const DrawCall& call : calls) EXPECT_NE(call.pen.style, wxPENSTYLE_DOT);
 }
 
 TEST(SceneryItem, DrawsOneCallPerPrimitiveInTheirOrder) {

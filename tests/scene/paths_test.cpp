@@ -58,7 +58,9 @@ TEST(Paths, GivesAStraightAtLeastOneSegment) {
 }
 
 TEST(Paths, RunsAStraightWithoutLengthAlongX) {
-  for (const PathPoint& point : StraightPath(3, 4, 3, 4 + 1e-7, 2)) {
+  const Path path = StraightPath(3, 4, 3, 4 + 1e-7, 2);
+  ASSERT_EQ(path.size(), 3U);
+  for (const PathPoint& point : path) {
     ExpectPoint(point.tangent, {1, 0, 0});
     ExpectPoint(point.side, {0, 1, 0});
   }
@@ -98,7 +100,9 @@ TEST(Paths, GivesAnArcAtLeastTwoSegments) {
 }
 
 TEST(Paths, KeepsADirectionOnAnArcWithoutSweep) {
-  for (const PathPoint& point : ArcPath(0, 100, 100, -90, 0, 8)) {
+  const Path path = ArcPath(0, 100, 100, -90, 0, 8);
+  ASSERT_EQ(path.size(), 9U);
+  for (const PathPoint& point : path) {
     ExpectPoint(point.position, {0, 0, 0});
     ExpectPoint(point.tangent, {1, 0, 0});
   }

@@ -121,7 +121,10 @@ TEST(TrackStrip, SetsTwoRails16Point5Apart) {
 }
 
 TEST(TrackStrip, BendsTheRailsWithTheCurve) {
-  for (const Triangle& triangle : TrianglesOf(PartIn(CurvedStrip(), kRailTop))) {
+  const auto triangles = TrianglesOf(PartIn(CurvedStrip(), kRailTop));
+  // Two rails of 12 segments, two triangles each.
+  ASSERT_EQ(triangles.size(), 48U);
+  for (const Triangle& triangle : triangles) {
     for (const Vec3f& corner : triangle.corners) {
       const float off = Length(Vec3f{corner.x, corner.y - 360.0F, 0.0F}) - 360.0F;
       EXPECT_NEAR(std::abs(std::abs(off) - 8.25F), 0.6F, 0.01F);
