@@ -18,6 +18,7 @@
 #include "doc/undo.h"
 #include "frame/commands.h"
 #include "frame/experience_dialog.h"
+#include "frame/help_dialog.h"
 #include "frame/main_frame.h"
 #include "view3d/view3d_frame.h"
 #include "workspace/status_text.h"
@@ -172,6 +173,10 @@ void MainFrame::on3DView(wxCommandEvent&) {
     view3D_ = nullptr;
     event.Skip();
   });
+}
+
+void MainFrame::onHelp(wxCommandEvent&) {
+  HelpDialog(this).ShowModal();
 }
 
 void MainFrame::onOptions(wxCommandEvent&) {

@@ -44,8 +44,7 @@ constexpr Command kCommands[] = {
 
     {.id = kCmdLayoutShape, .place = layout, .label = "Layout &Shape..."},
 
-    {.id = kCmdHelp, .place = help, .label = "&Help\tF1", .separatorAfter = true,
-     .available = false},
+    {.id = kCmdHelp, .place = help, .label = "&Help\tF1", .separatorAfter = true},
     {.id = kCmdOptions, .place = help, .label = "&Options..."},
 
     {.id = kCmdUndo, .place = toolbar, .label = "Undo"},

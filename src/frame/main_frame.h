@@ -117,6 +117,7 @@ class MainFrame : public wxFrame, public Workspace {
   void onValidate(wxCommandEvent& event);
   void onLayoutProperties(wxCommandEvent& event);
   void on3DView(wxCommandEvent& event);
+  void onHelp(wxCommandEvent& event);
   void onOptions(wxCommandEvent& event);
   void onUpdateUi(wxUpdateUIEvent& event);
   void onUpdateTunnel(wxUpdateUIEvent& event);

@@ -21,6 +21,12 @@ class StartUpTest : public FrameTest {
   ~StartUpTest() override { CloseAppLog(); }
 
   void start() { frame_ = StartUp(folders_); }
+  // As a new process, with nothing but the files left.
+  void startAgain() {
+    delete frame_;
+    Prefs() = {};
+    start();
+  }
   std::string log() const { return LogTexts(folders_.data + "/vantrel.log"); }
 };
 
@@ -63,6 +69,36 @@ TEST_F(StartUpTest, WithoutPreferencesShowsTheSplashAndThenAsksForTheExperience)
   EXPECT_TRUE(script.finished());
   wxTheApp->ProcessPendingEvents();  // and only once
   EXPECT_EQ(ReadFileText(folders_.prefsPath), "playful=1\nasked=1\n");
+}
+
+TEST_F(StartUpTest, TheFirstQuestionClosedByItsTitleBarMakesLaterStartsBareAndSilent) {
+  std::filesystem::remove(folders_.prefsPath);
+  ModalScript script;
+  script.dialog("Vantrel v1.5 by Kelmor", wxID_OK);
+  start();
+  script.shown("Choose Your Experience", [](wxDialog& dialog) { dialog.Close(); });
+  wxTheApp->ProcessPendingEvents();
+  EXPECT_TRUE(script.finished());
+  EXPECT_EQ(ReadFileText(folders_.prefsPath), "playful=0\nasked=1\n");
+  startAgain();
+  wxTheApp->ProcessPendingEvents();
+  EXPECT_TRUE(frame_->IsShown());
+  EXPECT_FALSE(Prefs().playful);
+}
+
+TEST_F(StartUpTest, AfterKeepItPlayfulLaterStartsGreetAndAskNothing) {
+  std::filesystem::remove(folders_.prefsPath);
+  ModalScript script;
+  script.dialog("Vantrel v1.5 by Kelmor", wxID_OK);
+  start();
+  script.dialog("Choose Your Experience", 5103);
+  wxTheApp->ProcessPendingEvents();
+  EXPECT_TRUE(script.finished());
+  script.dialog("Vantrel v1.5 by Kelmor", wxID_OK);
+  startAgain();
+  wxTheApp->ProcessPendingEvents();
+  EXPECT_TRUE(script.finished());
+  EXPECT_TRUE(Prefs().playful);
 }
 
 TEST_F(StartUpTest, WithPlayful0ComesUpBareAndWithAsked1AsksNothing) {
