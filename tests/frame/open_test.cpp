@@ -153,8 +153,11 @@ TEST_F(Open, FitsHoTrackIntoTheViewAndShowsZTrackAtUnitScale) {
   EXPECT_EQ(frame().canvas().view(), (ViewTransform{1.0, 60.0, 60.0}));
   put("ho");
   frame().LoadIntoFrame(inStore("ho.vtl"));
-  EXPECT_NE(frame().canvas().view(), (ViewTransform{1.0, 60.0, 60.0}));
-  EXPECT_NE(frame().canvas().view(), ViewTransform{});
+  // From one margin of 80 pixels to the other: the straight runs from x 100 to 288.3.
+  const ViewTransform& view = frame().canvas().view();
+  ASSERT_GT(frame().canvas().GetClientSize().x, 200);
+  EXPECT_NEAR(view.offsetX + 100.0 * view.scale, 80.0, 1e-6);
+  EXPECT_NEAR(view.offsetX + 288.3 * view.scale, frame().canvas().GetClientSize().x - 80.0, 1e-6);
 }
 
 TEST_F(Open, ChoosesTheSystemOfTheLayoutInThePalette) {

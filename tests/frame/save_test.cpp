@@ -70,12 +70,13 @@ TEST_F(Save, CancelChangesNothing) {
   EXPECT_TRUE(frame().dirty());
   EXPECT_EQ(frame().currentPath(), "");
   EXPECT_EQ(title(), "Vantrel v1.5 by Kelmor *");
-  EXPECT_TRUE(std::filesystem::is_empty(folders_.store) ||
-              !std::filesystem::exists(inStore("Unwanted.vtl")));
+  EXPECT_FALSE(std::filesystem::exists(inStore("Unwanted.vtl")));
 }
 
 TEST_F(Save, AsUnderTheSameNameAsksToReplaceTheFileThatIsOpen) {
   saveUnder("One");
+  addPiece();
+  frame().markDirty();
   ModalScript script;
   std::string offered;
   script.dialog("Save Layout", wxID_OK, TypeName("One", &offered));
@@ -84,6 +85,8 @@ TEST_F(Save, AsUnderTheSameNameAsksToReplaceTheFileThatIsOpen) {
   saveAs();
   EXPECT_EQ(offered, "One");
   EXPECT_TRUE(script.finished());
+  EXPECT_FALSE(frame().dirty());
+  EXPECT_NE(ReadFileText(inStore("One.vtl")).find("cat=\"24188\""), std::string::npos);
 }
 
 TEST_F(Save, AnswerOtherThanYesToReplaceChangesNothing) {

@@ -226,9 +226,11 @@ TEST_F(Autofill, NeverOffersPiecesWithAFunctionOrBridges) {
 }
 
 TEST_F(Autofill, AGapTooLongFor32OfTheLongestPiecesHasNoSolution) {
-  layGap(11522.0);  // 32 * 360 + 2
+  layGap(11880.0);  // 33 * 360: one piece more would fill it
   EXPECT_EQ(noticeText(),
-            "Gap is 11522.0mm. No combination of catalog straights fills it within tolerance.");
+            "Gap is 11880.0mm. No combination of catalog straights fills it within tolerance.");
+  layout.pieces[1].x = 11520.0;
+  EXPECT_EQ(offered(), std::vector<Parts>{Parts(32, "24360")});
 }
 
 TEST_F(Autofill, CoordinatesWithoutMeaningFaceNothing) {
