@@ -236,6 +236,11 @@ void CanvasPanel::endGestures() {
   vantrel::endGestures(canvas);
 }
 
+void CanvasPanel::dropDrafts() {
+  CanvasContext canvas = context();
+  vantrel::dropDrafts(canvas);
+}
+
 void CanvasPanel::cancelPaletteDrag() {
   CanvasContext canvas = context();
   vantrel::cancelPaletteDrag(canvas);

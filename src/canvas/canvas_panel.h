@@ -35,6 +35,8 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
 
   // As the release would end it.
   void endGestures() override;
+  // For another plan: ends gestures, what hangs at the pointer, drafts and the armed tool.
+  void dropDrafts();
   // Ends whatever hangs at the pointer, without a trace in the document.
   void cancelPaletteDrag();
   // The cross of the tools that click points, or the normal arrow.

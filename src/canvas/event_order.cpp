@@ -8,6 +8,7 @@
 #include "canvas/gestures/cloning.h"
 #include "canvas/gestures/context_menu.h"
 #include "canvas/gestures/deleting.h"
+#include "canvas/gestures/draft_text.h"
 #include "canvas/gestures/gesture_end.h"
 #include "canvas/gestures/helix_placement.h"
 #include "canvas/gestures/measure_draft.h"
@@ -272,6 +273,14 @@ void endGestures(CanvasContext& context) {
   cancelRubberBand(context);
   EndLeftGestures(context, {});
   context.host.releaseMouse();
+}
+
+void dropDrafts(CanvasContext& context) {
+  endGestures(context);
+  cancelPaletteDrag(context);
+  context.state.measureDraft = {};
+  context.state.polygonDraft = {};
+  if (isClickToolArmed(context.layout)) endClickTool(context);
 }
 
 void onCaptureLost(CanvasContext& context) {

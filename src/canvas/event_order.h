@@ -28,6 +28,10 @@ bool onCharacter(CanvasContext& context, const KeyEvent& event);
 // back. What hangs at the pointer goes on following it, and what was moved stays where it is.
 void endGestures(CanvasContext& context);
 
+// Another plan comes: endGestures, and nothing hangs at the pointer any more, no draft stays on
+// show, and no tool that clicks points is armed.
+void dropDrafts(CanvasContext& context);
+
 // The mouse was taken away by another window or a dialog: endGestures.
 void onCaptureLost(CanvasContext& context);
 

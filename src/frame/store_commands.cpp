@@ -81,6 +81,7 @@ bool MainFrame::ConfirmDiscard() {
 void MainFrame::newLayout() {
   canvas_->endGestures();
   if (!ConfirmDiscard()) return;
+  canvas_->dropDrafts();
   ClearContents(layout_);
   layout_.baseboard.clear();
   layout_.levels.clear();
@@ -161,6 +162,7 @@ void MainFrame::LoadIntoFrame(const std::string& path) {
     ReportError(nullptr, "Open Failed", problem);
     return;
   }
+  canvas_->dropDrafts();
   GrowAllJoints(layout_);
   EnsureDefaultLevel(layout_);
   currentPath_ = path;

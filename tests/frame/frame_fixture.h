@@ -7,6 +7,7 @@
 #include <wx/dirdlg.h>
 #include <wx/listbox.h>
 #include <wx/log.h>
+#include <wx/toolbar.h>
 #include <wx/utils.h>
 
 #include <filesystem>
@@ -95,6 +96,23 @@ class FrameTest : public testing::Test {
     event.SetPosition(at);
     event.SetLeftDown(left);
     canvas.HandleWindowEvent(event);
+  }
+
+  bool isToolDown(int id) { return frame().GetToolBar()->GetToolState(id); }
+  // As a click on the tool of the measuring tape or of the polygon.
+  void armTool(int id) {
+    frame().GetToolBar()->ToggleTool(id, true);
+    command(id, true);
+  }
+  // Nothing hangs at the pointer, no draft is on show, no tool is armed.
+  void expectNothingUnderWay() {
+    const CanvasState& state = frame().canvas().state();
+    EXPECT_FALSE(state.paletteDrag.active || state.sceneryDrag.active);
+    EXPECT_FALSE(state.helixPlacement.active);
+    EXPECT_FALSE(state.measureDraft.active || state.polygonDraft.active);
+    EXPECT_EQ(plan().toolMode, kNoTool);
+    EXPECT_FALSE(isToolDown(2013) || isToolDown(2014));
+    EXPECT_FALSE(frame().canvas().HasCapture());
   }
 
   Piece& addPiece(const std::string& part = "24188") {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "canvas/canvas_panel.h"
+#include "catalog/scenery_catalog.h"
 #include "doc/layout_ops.h"
 #include "io/layout_file.h"
 #include "tests/frame/frame_fixture.h"
@@ -85,6 +86,78 @@ TEST_F(NewLayout, OneYesToMovingGradedTrackHoldsForEveryLaterLayoutToo) {
   frame().LoadIntoFrame(inStore("other.vtl"));
   frame().canvas().resetView();
   EXPECT_EQ(dragDown(), 250.0);
+}
+
+TEST_F(NewLayout, DropsWhatHangsAtThePointer) {
+  showFrame();
+  frame().canvas().beginPieceDrag("24188");
+  command(5002);
+  expectNothingUnderWay();
+  frame().canvas().beginSceneryDrag(sceneryCatalog().front().id);
+  ASSERT_TRUE(frame().canvas().state().sceneryDrag.active);
+  command(5002);
+  expectNothingUnderWay();
+  frame().canvas().beginHelixDrag("24130");
+  ASSERT_TRUE(frame().canvas().state().helixPlacement.active);
+  command(5002);
+  expectNothingUnderWay();
+  // The next press finds an empty canvas.
+  mouseOnCanvas(wxEVT_LEFT_DOWN, {100, 60}, true);
+  mouseOnCanvas(wxEVT_LEFT_UP, {100, 60}, false);
+  EXPECT_TRUE(plan().pieces.empty() && plan().scenery.empty() && plan().helices.empty());
+}
+
+TEST_F(NewLayout, TakesTheTapeAndItsDraftAway) {
+  showFrame();
+  armTool(2013);
+  mouseOnCanvas(wxEVT_LEFT_DOWN, {100, 60}, true);
+  ASSERT_TRUE(frame().canvas().state().measureDraft.active);
+  command(5002);
+  expectNothingUnderWay();
+}
+
+TEST_F(NewLayout, TakesAwayATapeThatStayedOnShowAfterItsToolWasPutAway) {
+  showFrame();
+  armTool(2013);
+  mouseOnCanvas(wxEVT_LEFT_DOWN, {100, 60}, true);
+  command(2013, false);
+  frame().GetToolBar()->ToggleTool(2013, false);
+  ASSERT_TRUE(frame().canvas().state().measureDraft.active);
+  command(5002);
+  expectNothingUnderWay();
+}
+
+TEST_F(NewLayout, TakesThePolygonAndItsDraftAway) {
+  showFrame();
+  armTool(2014);
+  mouseOnCanvas(wxEVT_LEFT_DOWN, {100, 60}, true);
+  ASSERT_TRUE(frame().canvas().state().polygonDraft.active);
+  command(5002);
+  expectNothingUnderWay();
+}
+
+TEST_F(NewLayout, TakesTheOutlineOfTheTableAwayWithItsHint) {
+  showFrame();
+  plan().toolMode = kBaseboardTool;
+  frame().setStatus(kStatusMessage, "Click vertices");
+  mouseOnCanvas(wxEVT_LEFT_DOWN, {100, 60}, true);
+  ASSERT_TRUE(frame().canvas().state().polygonDraft.active);
+  command(5002);
+  expectNothingUnderWay();
+  EXPECT_EQ(statusText(kStatusMessage), "Ready");
+}
+
+TEST_F(NewLayout, ThatIsCalledOffLeavesToolAndDraftAlone) {
+  showFrame();
+  frame().markDirty();
+  armTool(2013);
+  mouseOnCanvas(wxEVT_LEFT_DOWN, {100, 60}, true);
+  ModalScript script;
+  script.dialog("Unsaved Changes", wxID_CANCEL);
+  command(5002);
+  EXPECT_TRUE(frame().canvas().state().measureDraft.active);
+  EXPECT_EQ(plan().toolMode, kMeasureTool);
+  EXPECT_TRUE(isToolDown(2013));
 }
 
 TEST_F(NewLayout, CloseDoesTheSame) {

@@ -28,6 +28,31 @@ class Open : public FrameTest {
   }
 };
 
+TEST_F(Open, LeavesNoGhostNoDraftAndNoToolOfTheLayoutBefore) {
+  put("A");
+  showFrame();
+  armTool(2014);
+  mouseOnCanvas(wxEVT_LEFT_DOWN, {100, 60}, true);
+  ASSERT_TRUE(frame().canvas().state().polygonDraft.active);
+  openRow(0);
+  expectNothingUnderWay();
+  frame().canvas().beginPieceDrag("24188");
+  openRow(0);
+  expectNothingUnderWay();
+  EXPECT_EQ(plan().pieces.size(), 1u);
+}
+
+TEST_F(Open, OfAFileThatCannotBeReadLeavesToolAndDraftAlone) {
+  showFrame();
+  armTool(2013);
+  mouseOnCanvas(wxEVT_LEFT_DOWN, {100, 60}, true);
+  ModalScript script;
+  script.dialog("Open Failed", wxID_OK);
+  frame().LoadIntoFrame(inStore("missing.vtl"));
+  EXPECT_TRUE(frame().canvas().state().measureDraft.active);
+  EXPECT_EQ(plan().toolMode, kMeasureTool);
+}
+
 TEST_F(Open, SaysWhenTheStoreHoldsNoLayouts) {
   ModalScript script;
   script.box("Open Layout", "No layouts found in\n" + folders_.store, kInformationBox, wxID_OK);
