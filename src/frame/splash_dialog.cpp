@@ -8,6 +8,8 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
+#include <utility>
+
 #include "app/services/pictures.h"
 #include "app/services/prefs.h"
 #include "app/services/store_address.h"
@@ -62,8 +64,9 @@ void PaintSplash(wxDC& dc, const SplashPictures& pictures) {
 wxBEGIN_EVENT_TABLE(SplashDialog, wxDialog) EVT_KEY_DOWN(SplashDialog::onKeyDown)
     wxEND_EVENT_TABLE()
 
-        SplashDialog::SplashDialog(wxWindow* parent)
-    : wxDialog(parent, wxID_ANY, kProgramTitle, wxDefaultPosition, kDialogSize) {
+        SplashDialog::SplashDialog(wxWindow* parent, LinkOpener openLink)
+    : wxDialog(parent, wxID_ANY, kProgramTitle, wxDefaultPosition, kDialogSize),
+      openLink_(std::move(openLink)) {
   wxInitAllImageHandlers();
   pictures_ = LoadSplashPictures(Prefs().playful);
   build();
@@ -93,6 +96,7 @@ wxSizer* SplashDialog::buildMakerRow() {
   text->SetFont(OnePointLarger(text->GetFont()));
   auto* link = new wxHyperlinkCtrl(this, wxID_ANY, "Kelmor", kStoreAddress);
   link->SetFont(OnePointLarger(link->GetFont()).Bold());
+  FollowLink(*link, openLink_);
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   row->Add(text, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, kMakerGap);
   row->Add(link, 0, wxALIGN_CENTRE_VERTICAL);

@@ -4,6 +4,8 @@
 #include <wx/bitmap.h>
 #include <wx/dialog.h>
 
+#include "app/services/web_link.h"
+
 class wxButton;
 class wxDC;
 
@@ -22,7 +24,7 @@ void PaintSplash(wxDC& dc, const SplashPictures& pictures);
 
 class SplashDialog : public wxDialog {
  public:
-  explicit SplashDialog(wxWindow* parent);
+  explicit SplashDialog(wxWindow* parent, LinkOpener openLink = OpenInBrowser);
 
  private:
   void build();
@@ -31,6 +33,7 @@ class SplashDialog : public wxDialog {
   void onKeyDown(wxKeyEvent& event);
 
   SplashPictures pictures_;
+  LinkOpener openLink_;
   wxButton* done_ = nullptr;
 
   wxDECLARE_EVENT_TABLE();

@@ -35,20 +35,22 @@ wxBitmap ScaledBuyTrackPicture(const wxImage& image) {
   return wxBitmap(image.Scale(kPictureSize.x, kPictureSize.y, wxIMAGE_QUALITY_HIGH));
 }
 
-BuyTrackHelpDialog::BuyTrackHelpDialog(wxWindow* parent, const wxBitmap& picture)
+BuyTrackHelpDialog::BuyTrackHelpDialog(wxWindow* parent, const wxBitmap& picture,
+                                       const LinkOpener& openLink)
     : wxDialog(parent, wxID_ANY, "Buy Track - How it works") {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   if (picture.IsOk()) row->Add(new wxStaticBitmap(this, wxID_ANY, picture), 0, wxALL, kBorder);
-  row->Add(buildText(), 1, wxALIGN_CENTRE_VERTICAL | wxALL, kBorder);
+  row->Add(buildText(openLink), 1, wxALIGN_CENTRE_VERTICAL | wxALL, kBorder);
   SetSizerAndFit(row);
   Centre(wxBOTH);
 }
 
-wxSizer* BuyTrackHelpDialog::buildText() {
+wxSizer* BuyTrackHelpDialog::buildText(const LinkOpener& openLink) {
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(new wxStaticText(this, wxID_ANY, kExplanation), 0, wxALL, kBorder);
-  column->Add(new wxHyperlinkCtrl(this, wxID_ANY, kStoreAddress, kStoreAddress), 0,
-              wxALIGN_LEFT | wxLEFT | wxRIGHT | wxBOTTOM, kBorder);
+  auto* link = new wxHyperlinkCtrl(this, wxID_ANY, kStoreAddress, kStoreAddress);
+  FollowLink(*link, openLink);
+  column->Add(link, 0, wxALIGN_LEFT | wxLEFT | wxRIGHT | wxBOTTOM, kBorder);
   auto* close = new wxButton(this, wxID_OK, "Got it!");
   close->SetBackgroundColour(StoreGreen());
   close->SetForegroundColour(*wxWHITE);

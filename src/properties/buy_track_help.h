@@ -5,6 +5,8 @@
 #include <wx/dialog.h>
 #include <wx/image.h>
 
+#include "app/services/web_link.h"
+
 namespace vantrel {
 
 // The picture of the dialog at its size, or an invalid bitmap for a dialog without one.
@@ -14,10 +16,11 @@ wxBitmap ScaledBuyTrackPicture(const wxImage& image);
 class BuyTrackHelpDialog : public wxDialog {
  public:
   // An invalid picture leaves its side of the dialog out.
-  BuyTrackHelpDialog(wxWindow* parent, const wxBitmap& picture);
+  BuyTrackHelpDialog(wxWindow* parent, const wxBitmap& picture,
+                     const LinkOpener& openLink = OpenInBrowser);
 
  private:
-  wxSizer* buildText();
+  wxSizer* buildText(const LinkOpener& openLink);
 };
 
 }  // namespace vantrel

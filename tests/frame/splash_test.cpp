@@ -122,6 +122,18 @@ TEST_F(Splash, TheButtonEndsIt) {
   EXPECT_EQ(SplashDialog(&frame()).ShowModal(), wxID_OK);
 }
 
+TEST_F(Splash, TellsTheStoresAddressWhenItsLinkFindsNoBrowser) {
+  SplashDialog dialog(&frame(), [](const std::string&) { return false; });
+  auto* link = FindControl<wxHyperlinkCtrl>(dialog);
+  ASSERT_NE(link, nullptr);
+  ModalScript script;
+  script.box("Web Page",
+             "No web browser could be started. The address is:\nhttps://shop.kelmor.example",
+             kInformationBox, wxID_OK);
+  wxHyperlinkEvent click(link, link->GetId(), link->GetURL());
+  EXPECT_TRUE(link->ProcessWindowEvent(click)) << "or the toolkit opens it once more";
+}
+
 TEST_F(Splash, NamesTheMakerInLargerLettersAndLinksToTheStore) {
   SplashDialog dialog(&frame());
   auto* text = FindControl<wxStaticText>(dialog, "Vantrel by");
