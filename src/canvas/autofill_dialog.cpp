@@ -14,6 +14,7 @@ namespace {
 constexpr int kBorder = 8;  // pixels
 const wxSize kSize(380, 320);
 const wxSize kSmallestList(200, 100);
+constexpr int kRowAir = 10;  // what a list keeps free above and below the text of a row
 
 wxSizer* ButtonRow(wxDialog& dialog) {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
@@ -23,6 +24,16 @@ wxSizer* ButtonRow(wxDialog& dialog) {
   row->Add(place, 0, wxRIGHT, kBorder);
   row->Add(new wxButton(&dialog, wxID_CANCEL, "Cancel"));
   return row;
+}
+
+// What the list needs to show all its rows whole, as far as the window behind it reaches.
+wxSize ListSize(const wxDialog& dialog, const wxListBox& list) {
+  const int rows = static_cast<int>(list.GetCount());
+  wxSize size(list.GetBestSize().x, rows * (list.GetCharHeight() + kRowAir));
+  if (const wxWindow* behind = dialog.GetParent())
+    size.DecTo(wxGetTopLevelParent(const_cast<wxWindow*>(behind))->GetClientSize());
+  size.IncTo(kSmallestList);
+  return size;
 }
 
 }  // namespace
@@ -35,10 +46,9 @@ AutofillDialog::AutofillDialog(wxWindow* parent, double gapMm, const std::vector
   column->Add(new wxStaticText(this, wxID_ANY, wxString::FromUTF8(gap)), 0, wxALL, kBorder);
   wxArrayString texts;
   for (const std::string& row : rows) texts.Add(wxString::FromUTF8(row));
-  // A row of many pieces is far wider than the dialog: the list scrolls to its end.
+  // A row of many pieces may be wider than the window: the list scrolls to its end.
   list_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, texts,
                         wxLB_SINGLE | wxLB_HSCROLL | wxLB_NEEDED_SB);
-  list_->SetMinSize(kSmallestList);
   if (!rows.empty()) list_->SetSelection(0);
   list_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { EndModal(wxID_OK); });
   column->Add(list_, 1, wxEXPAND | wxLEFT | wxRIGHT, kBorder);
@@ -54,10 +64,12 @@ int AutofillDialog::row() const {
   return selected == wxNOT_FOUND ? kNone : selected;
 }
 
+// As large as the rows need; the user may make it smaller, down to a small list.
 void AutofillDialog::fitAtLeast(wxSize size) {
-  const wxSize needed = ClientToWindowSize(GetSizer()->ComputeFittingClientSize(this));
-  SetMinSize(needed);
-  size.IncTo(needed);
+  list_->SetMinSize(ListSize(*this, *list_));
+  size.IncTo(ClientToWindowSize(GetSizer()->ComputeFittingClientSize(this)));
+  list_->SetMinSize(kSmallestList);
+  SetMinSize(ClientToWindowSize(GetSizer()->ComputeFittingClientSize(this)));
   SetSize(size);
   Layout();
 }

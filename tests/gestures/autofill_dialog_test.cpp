@@ -1,11 +1,14 @@
 #include "canvas/autofill_dialog.h"
 
 #include <gtest/gtest.h>
+#include <wx/app.h>
 #include <wx/button.h>
 #include <wx/frame.h>
 #include <wx/listbox.h>
 #include <wx/stattext.h>
+#include <wx/utils.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -58,13 +61,39 @@ TEST_F(AutofillDialogTest, StartsOnItsFirstRowWithTheKeyboardInTheList) {
   EXPECT_TRUE(listHasFocus);
 }
 
-TEST_F(AutofillDialogTest, IsResizableAndOfItsSizeWhateverTheRowsHold) {
-  // 32 pieces in one row: the list scrolls, and doesn't widen the dialog.
+TEST_F(AutofillDialogTest, IsResizableAndNotSmallerThanItsUsualSize) {
+  AutofillDialog dialog(frame, 188.3, rows);
+  EXPECT_TRUE(dialog.HasFlag(wxRESIZE_BORDER));
+  EXPECT_EQ(dialog.GetSize(), wxSize(380, 320));
+  EXPECT_LT(dialog.GetMinSize().x, 380) << "the user may make it smaller";
+}
+
+TEST_F(AutofillDialogTest, ShowsTwelveRowsOfEightPiecesWholeWithoutScrolling) {
+  std::string row = "24360";
+  for (int i = 1; i < 8; ++i) row += " + 24360";
+  rows.assign(12, row + "  (2880.0 mm)");
+  AutofillDialog dialog(frame, 2880.0, rows);
+  dialog.Show();
+  for (int i = 0; i < 20; ++i) {
+    wxTheApp->Yield();
+    wxMilliSleep(5);
+  }
+  const wxListBox& list = listOf(dialog);
+  EXPECT_GE(list.GetClientSize().x, list.GetTextExtent(rows[0]).x + 8);
+  // The last row lies at the foot of what is seen, not behind it.
+  EXPECT_EQ(list.HitTest(wxPoint(20, 8)), 0);
+  int last = wxNOT_FOUND;
+  for (int y = 0; y < list.GetClientSize().y; ++y) last = std::max(last, list.HitTest({20, y}));
+  EXPECT_EQ(last, 11);
+}
+
+TEST_F(AutofillDialogTest, IsNoLargerThanTheWindowBehindIt) {
+  // 32 pieces in one row: the list scrolls to its end.
   rows.push_back("24360");
   for (int i = 1; i < 32; ++i) rows.back() += " + 24360";
   AutofillDialog dialog(frame, 11520.0, rows);
-  EXPECT_TRUE(dialog.HasFlag(wxRESIZE_BORDER));
-  EXPECT_EQ(dialog.GetSize(), wxSize(380, 320));
+  EXPECT_LE(dialog.GetSize().x, 900 + 2 * 8) << "the border around the list";
+  EXPECT_GT(dialog.GetSize().x, 800);
 }
 
 TEST_F(AutofillDialogTest, CutsNoControlOff) {
