@@ -2,6 +2,8 @@
 #include <wx/sizer.h>
 #include <wx/splitter.h>
 
+#include <algorithm>
+
 #include "app/services/frame_log.h"
 #include "canvas/canvas_panel.h"
 #include "frame/main_frame.h"
@@ -12,10 +14,10 @@
 namespace vantrel {
 namespace {
 
-// Pixels.
+// Pixels. Where a pane's own contents need more, it gets more.
 constexpr int kPaletteMinWidth = 150;
 constexpr int kPaletteSash = 235;
-constexpr int kPropertiesSash = -280;  // from the right
+constexpr int kPropertiesSash = 280;  // from the right
 constexpr int kOuterMinPane = 150;
 constexpr int kInnerMinPane = 200;
 constexpr int kSmallestSplitter = 50;
@@ -50,19 +52,22 @@ void MainFrame::buildPanels() {
   wxSplitterWindow* outer = MakeSplitter(root_, GetClientSize(), kLeftStays);
   palette_ = new PalettePanel(outer, *this, PathIn(folders_.store, kLibraryFolder));
   palette_->SetMinSize(wxSize(kPaletteMinWidth, -1));
+  const int paletteSash = std::max(kPaletteSash, palette_->widthOfTabs());
   FrameLog("BuildPanels: palette created");
   wxSplitterWindow* inner = MakeSplitter(
-      outer, outer->GetSize() - wxSize(kPaletteSash + outer->GetSashSize(), 0), kLeftGrows);
+      outer, outer->GetSize() - wxSize(paletteSash + outer->GetSashSize(), 0), kLeftGrows);
   FrameLog("BuildPanels: splitter created");
   canvas_ = new CanvasPanel(inner, *this);
   palette_->connectCanvas(*canvas_);
   FrameLog("BuildPanels: canvas created");
   properties_ = new PropertiesPanel(inner, *this);
   FrameLog("BuildPanels: properties created");
-  inner->SplitVertically(canvas_, properties_, kPropertiesSash);
+  const int propertiesSash =
+      std::max(kPropertiesSash, properties_->usualWidth() + inner->GetSashSize());
+  inner->SplitVertically(canvas_, properties_, -propertiesSash);
   inner->SetMinimumPaneSize(kInnerMinPane);
   FrameLog("BuildPanels: split done");
-  outer->SplitVertically(palette_, inner, kPaletteSash);
+  outer->SplitVertically(palette_, inner, paletteSash);
   outer->SetMinimumPaneSize(kOuterMinPane);
   FrameLog("BuildPanels: adding to sizer");
   sizer->Add(outer, 1, wxEXPAND);

@@ -2,6 +2,7 @@
 
 #include <wx/app.h>
 #include <wx/menu.h>
+#include <wx/statusbr.h>
 #include <wx/toolbar.h>
 #include <wx/utils.h>
 
@@ -24,6 +25,9 @@ namespace {
 
 const wxSize kFrameSize(1400, 900);
 constexpr int kStatusFields = 3;
+// What the fields of the status bar have room for.
+constexpr const char* kWidestPieces = "Pieces: 1000000";
+constexpr const char* kWidestPosition = "-100000 mm,  -100000 mm";
 constexpr int kPageMarginMm = 15;
 constexpr int kLongestWaitMs = 1000;
 constexpr int kWaitStepMs = 10;
@@ -43,6 +47,7 @@ MainFrame::MainFrame(const ProgramFolders& folders)
   buildPanels();
   FrameLog("D: Panels done");
   CreateStatusBar(kStatusFields);
+  divideStatusBar();
   SetStatusBarPane(-1);  // no help texts over what the fields say
   setStatus(kStatusMessage, ReadyText(layout_));
   setStatus(kStatusPieces, PiecesText(0));
@@ -62,6 +67,17 @@ MainFrame::~MainFrame() {
   // while it still is one.
   delete view3D_;
   if (root_) root_->Destroy();
+}
+
+// The first field says whole sentences: it takes all but what the numbers beside it need.
+void MainFrame::divideStatusBar() {
+  const wxStatusBar& bar = *GetStatusBar();
+  const int gap = bar.GetTextExtent("00").x;
+  const int pieces = bar.GetTextExtent(kWidestPieces).x + gap;
+  // The grip in the corner is as wide as the bar is high.
+  const int position = bar.GetTextExtent(kWidestPosition).x + gap + bar.GetSize().y;
+  const int widths[kStatusFields] = {-1, pieces, position};
+  SetStatusWidths(kStatusFields, widths);
 }
 
 void MainFrame::preparePrinting() {

@@ -70,6 +70,7 @@ class MainFrame : public wxFrame, public Workspace {
 
  private:
   void buildPanels();
+  void divideStatusBar();
   void preparePrinting();
   void watchFirstPaint();
   void waitUntilPainted();

@@ -21,6 +21,11 @@ namespace vantrel {
 namespace {
 
 constexpr int kBorder = 4;  // pixels
+// Where tabs need more room than there is, the toolkit hides some of them behind arrows; it doesn't
+// tell when. Measured with its default theme: what it keeps free around the text of each tab, and
+// at both ends of the row.
+constexpr int kTabAir = 32;
+constexpr int kRowEnds = 14;
 constexpr std::string_view kHelixKeyPrefix = "@helix:";
 const char* const kSceneryPageTitle = "Scenery";
 
@@ -89,6 +94,13 @@ void PalettePanel::bindList(wxListBox* box) {
     if (event.LeftIsDown() && event.Dragging() && !doubleClicked_) startSceneryDrag();
     event.Skip();
   });
+}
+
+int PalettePanel::widthOfTabs() const {
+  int width = kRowEnds + 2 * kBorder;
+  for (std::size_t page = 0; page < notebook_->GetPageCount(); ++page)
+    width += notebook_->GetTextExtent(notebook_->GetPageText(page)).x + kTabAir;
+  return width;
 }
 
 void PalettePanel::RefreshAll() {

@@ -38,6 +38,9 @@ class PalettePanel : public wxPanel, private TrackIconGridListener {
   // as the panel receives events.
   void connectCanvas(PlacementTarget& canvas) { canvas_ = &canvas; }
 
+  // The width at which the tabs of all pages are in view, in pixels.
+  int widthOfTabs() const;
+
   // Fills every page for the chosen system and brings the "Scenery" page back if it was removed,
   // whichever system that is.
   void RefreshAll();

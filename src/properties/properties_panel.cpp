@@ -82,6 +82,10 @@ void PropertiesPanel::ShowNoSelection() {
   show(DescribeNothing(workspace_.layout()), Typed::replace);
 }
 
+int PropertiesPanel::usualWidth() const {
+  return tally_->usualWidth();
+}
+
 void PropertiesPanel::RefreshTally() {
   tally_->RefreshTally();
 }

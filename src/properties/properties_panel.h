@@ -47,6 +47,8 @@ class PropertiesPanel : public wxScrolled<wxPanel> {
   void ShowNoSelection();
   // Recounts the pieces that the plan needs.
   void RefreshTally();
+  // The width at which the tally shows what it usually holds, in pixels.
+  int usualWidth() const;
   // Where the next label goes, in world mm.
   void SetPendingLabelPosition(double x, double y);
 

@@ -1,16 +1,15 @@
 #include "properties/tally_panel.h"
 
 #include <wx/button.h>
-#include <wx/log.h>
 #include <wx/msgdlg.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
-#include <wx/utils.h>
 
 #include <utility>
 
 #include "app/services/prefs.h"
 #include "app/services/store_address.h"
+#include "app/services/web_link.h"
 #include "properties/buy_track_help.h"
 #include "properties/store_colours.h"
 #include "properties/tally_list.h"
@@ -24,17 +23,12 @@ constexpr int kBorder = 6;  // pixels
 constexpr int kGap = 4;
 constexpr int kBuyPointsLarger = 2;
 
-void OpenInDefaultBrowser(const std::string& address) {
-  const wxLogNull quiet;  // without a browser nothing happens, and no error box comes up either
-  wxLaunchDefaultBrowser(wxString::FromUTF8(address));
-}
-
 }  // namespace
 
 TallyPanel::TallyPanel(wxWindow* parent, Workspace& workspace, Browser browser)
     : wxPanel(parent),
       workspace_(workspace),
-      browser_(browser ? std::move(browser) : Browser(OpenInDefaultBrowser)) {
+      browser_(browser ? std::move(browser) : Browser(OpenInBrowser)) {
   auto* title = new wxStaticText(this, wxID_ANY, "Piece Count");
   title->SetFont(title->GetFont().Bold());
   list_ = new TallyList(this);
@@ -61,6 +55,10 @@ wxSizer* TallyPanel::buildButtonRow() {
   row->Add(buy, 1, wxRIGHT, kGap);
   row->Add(help, 0, wxEXPAND);
   return row;
+}
+
+int TallyPanel::usualWidth() const {
+  return list_->usualWidth() + 2 * kBorder;
 }
 
 void TallyPanel::RefreshTally() {

@@ -17,8 +17,11 @@ class TallyPanel : public wxPanel {
   // Opens a web address in the user's browser.
   using Browser = std::function<void(const std::string& address)>;
 
-  // Without a `browser` it is the desktop's default one.
+  // Without a `browser` it is the desktop's default one; when that doesn't start, nothing happens.
   TallyPanel(wxWindow* parent, Workspace& workspace, Browser browser = {});
+
+  // The width at which the list shows what it usually holds, in pixels.
+  int usualWidth() const;
 
   // Counts the pieces anew.
   void RefreshTally();

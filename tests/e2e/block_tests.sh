@@ -18,7 +18,7 @@ save_block() {
 
 # open_library: the palette's second page. Its tab stands above the list, behind "Track".
 open_library() {
-  move $((palette_x + 165)) $((palette_y - 27))
+  move $((palette_x + 108)) $((palette_y - 27))
   click
   settle
 }

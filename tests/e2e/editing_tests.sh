@@ -216,11 +216,11 @@ test_graded_track_is_asked_about_and_both_answers_hold() {
 }
 
 # Sets bed_x, bed_y to a point on the only piece on the canvas, selected or not, off its number, and
-# goes there. The palette's icons have the same colours.
+# goes there. The icons of the palette and the borders of the panel have the same colours.
 middle_of_bed() {
   local box
   box=$( (pixels "$bed"; pixels "$selected_bed"; pixels "$tunnel_bed") | awk -v left="$canvas_x" '
-    $1 < left {next}
+    $1 < left || $1 > left + 700 {next}
     !n++ {x0 = x1 = $1; y0 = y1 = $2}
     {if ($1 < x0) x0 = $1; if ($1 > x1) x1 = $1; if ($2 < y0) y0 = $2; if ($2 > y1) y1 = $2}
     END {if (n) print int(x0 + (x1 - x0) / 4), int((y0 + y1) / 2)}')

@@ -17,7 +17,7 @@ write_two_straights() {
 
 # point_of_bed PART: a point of the track on the canvas that has this share of it to its left.
 point_of_bed() {
-  (pixels "$bed"; pixels "$selected_bed"; pixels "$k_track_bed") | awk -v left="$canvas_x" '$1 > left' | sort -n |
+  (pixels "$bed"; pixels "$selected_bed"; pixels "$k_track_bed") | awk -v left="$canvas_x" '$1 > left && $1 < left + 700' | sort -n |
     awk -v part="$1" '{line[NR] = $0} END {print line[int(NR * part) + 1]}'
 }
 

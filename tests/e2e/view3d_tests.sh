@@ -1,9 +1,11 @@
 # Sourced by run.sh: the 3D window with the real mouse and keys, beside the canvas and alone.
 # shellcheck shell=bash
 
-# The tool "3D View" stands above the canvas, near its left edge.
+# The tool "3D View" stands above the canvas, 344 pixels from the window's left edge.
 click_view_tool() {
-  move $((canvas_x + 103)) $((canvas_y - 22))
+  local X=0
+  eval "$(xdotool getwindowgeometry --shell "$main" | grep '^X=')"
+  move $((X + 344)) $((canvas_y - 22))
   click
 }
 

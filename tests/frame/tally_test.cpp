@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "canvas/canvas_panel.h"
+#include "catalog/track_catalog.h"
 #include "doc/undo.h"
 #include "frame/startup.h"
 #include "properties/properties_panel.h"
@@ -53,6 +54,25 @@ class FrameTally : public FrameTest {
     frame().canvas().ProcessWindowEvent(event);
   }
 };
+
+TEST_F(FrameTally, ShowsAllButTheSixLongestDescriptionsOfTheCatalogWhole) {
+  for (std::int32_t i = 0; i < catalog().pieceCount(); ++i)
+    addPiece(catalog().pieceAt(i)->partNumber);
+  frame().markDirty();
+  show();
+  auto* list = FindControl<TallyList>(frame().properties());
+  ASSERT_NE(list, nullptr);
+  Texts cut;
+  for (long row = 0; row < list->GetItemCount(); ++row) {
+    list->EnsureVisible(row);
+    wxRect rect;
+    ASSERT_TRUE(list->GetItemRect(row, rect));
+    const wxString tip = list->tipAt(rect.GetPosition() + wxPoint(20, 5));
+    if (!tip.empty()) cut.push_back(tip.BeforeFirst(' ').utf8_string());
+  }
+  // Turnouts that tell their radius as well as their length.
+  EXPECT_EQ(cut, (Texts{"2268", "2269", "2270", "22715", "22716", "2275"}));
+}
 
 TEST_F(FrameTally, IsEmptyAtTheStart) {
   EXPECT_EQ(tally(), Texts());

@@ -212,6 +212,31 @@ TEST_F(TallyPanelTest, ShowsTheDescriptionsOfUsualCurvesWhole) {
   }
 }
 
+TEST_F(TallyPanelTest, WritesLongDescriptionsInSmallerLettersUntilTheyFit) {
+  // At this width a short, a long and a very long one.
+  for (const char* part : {"2205", "2290", "24188"}) Place(plan(), part);
+  panel->RefreshTally();
+  show();
+  resize(panel->usualWidth(), 400);
+  const double usual = list->GetFont().GetFractionalPointSize();
+  const auto size = [this](long row) { return list->GetItemFont(row).GetFractionalPointSize(); };
+  ASSERT_EQ(list->GetItemText(1, 0), "2290 Straight Feeder Track Length 180 mm / 7-3/32\"");
+  EXPECT_EQ(size(2), usual);
+  EXPECT_LT(size(1), usual);
+  EXPECT_GE(size(1), 6.5) << "smaller letters are hard to read";
+  const wxFont used = list->GetItemFont(1);
+  int width = 0;
+  int height = 0;
+  list->GetTextExtent(list->GetItemText(1, 0), &width, &height, nullptr, nullptr, &used);
+  EXPECT_LE(width + 12, list->GetColumnWidth(0));
+  wxRect row;
+  ASSERT_TRUE(list->GetItemRect(1, row));
+  EXPECT_EQ(list->tipAt(row.GetPosition() + wxPoint(20, 5)), "");
+
+  resize(700, 400);
+  EXPECT_EQ(size(1), usual) << "no smaller than they have to be";
+}
+
 TEST_F(TallyPanelTest, TellsTheWholeTextOfARowThatIsCutOff) {
   Place(plan(), "2270");
   Place(plan(), "24188");
@@ -403,6 +428,18 @@ TEST_F(TallyPanelTest, PutsThePictureAtTheLeftOfTheExplanation) {
 TEST_F(TallyPanelTest, HasNoPictureInThePlainModeNorOneThatCannotBeRead) {
   EXPECT_FALSE(BuyTrackPicture(false).IsOk());
   EXPECT_FALSE(ScaledBuyTrackPicture(wxImage()).IsOk());
+}
+
+TEST_F(TallyPanelTest, TellsTheStoresAddressWhenTheExplanationsLinkFindsNoBrowser) {
+  BuyTrackHelpDialog dialog(frame, wxBitmap(), [](const std::string&) { return false; });
+  auto* link = FindControl<wxHyperlinkCtrl>(dialog);
+  ASSERT_NE(link, nullptr);
+  ModalScript script;
+  script.box("Web Page",
+             "No web browser could be started. The address is:\nhttps://shop.kelmor.example",
+             kInformationBox, wxID_OK);
+  wxHyperlinkEvent click(link, link->GetId(), link->GetURL());
+  EXPECT_TRUE(link->ProcessWindowEvent(click));
 }
 
 TEST_F(TallyPanelTest, ClosesTheExplanationWithItsButton) {
