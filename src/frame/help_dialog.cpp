@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "app/services/pictures.h"
 #include "app/services/prefs.h"
@@ -63,9 +64,10 @@ std::optional<int> ScrollTarget(int key, int position, int pageSteps, int end) {
 HelpDialog::HelpDialog(wxWindow* parent)
     : HelpDialog(parent, Prefs().playful ? LoadPicture(kHelpPicture) : wxImage()) {}
 
-HelpDialog::HelpDialog(wxWindow* parent, const wxImage& sidePicture)
+HelpDialog::HelpDialog(wxWindow* parent, const wxImage& sidePicture, LinkOpener openLink)
     : wxDialog(parent, wxID_ANY, "Vantrel v1.5 Help", wxDefaultPosition, kDialogSize,
-               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER) {
+               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+      openLink_(std::move(openLink)) {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   wxSizer* const text = buildText();
   wxSize least = text->CalcMin();
@@ -124,8 +126,9 @@ void HelpDialog::addBody(wxSizer& column, const std::string& text) {
 wxSizer* HelpDialog::buildLink(const std::string& lead) {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   row->Add(newText(lead), 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, kLinkGap);
-  row->Add(new wxHyperlinkCtrl(page_, wxID_ANY, "Kelmor", kStoreAddress), 0,
-           wxALIGN_CENTRE_VERTICAL);
+  auto* link = new wxHyperlinkCtrl(page_, wxID_ANY, "Kelmor", kStoreAddress);
+  FollowLink(*link, openLink_);
+  row->Add(link, 0, wxALIGN_CENTRE_VERTICAL);
   return row;
 }
 

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+#include "app/services/web_link.h"
+
 class wxScrolledWindow;
 class wxStaticText;
 
@@ -17,7 +19,7 @@ class HelpDialog : public wxDialog {
  public:
   explicit HelpDialog(wxWindow* parent);
   // With this picture at the side: in playful mode, and only when it is valid.
-  HelpDialog(wxWindow* parent, const wxImage& sidePicture);
+  HelpDialog(wxWindow* parent, const wxImage& sidePicture, LinkOpener openLink = OpenInBrowser);
 
  private:
   wxSizer* buildText();
@@ -29,6 +31,7 @@ class HelpDialog : public wxDialog {
   wxStaticText* newText(const std::string& text);
   void onKey(wxKeyEvent& event);
 
+  LinkOpener openLink_;
   wxScrolledWindow* page_ = nullptr;
 };
 

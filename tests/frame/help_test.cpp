@@ -65,6 +65,18 @@ class Help : public FrameTest {
   }
 };
 
+TEST_F(Help, TellsTheStoresAddressWhenItsLinkFindsNoBrowser) {
+  HelpDialog dialog(&frame(), wxImage(), [](const std::string&) { return false; });
+  auto* link = FindControl<wxHyperlinkCtrl>(dialog);
+  ASSERT_NE(link, nullptr);
+  ModalScript script;
+  script.box("Web Page",
+             "No web browser could be started. The address is:\nhttps://shop.kelmor.example",
+             kInformationBox, wxID_OK);
+  wxHyperlinkEvent click(link, link->GetId(), link->GetURL());
+  EXPECT_TRUE(link->ProcessWindowEvent(click));
+}
+
 TEST_F(Help, IsOpenedModallyByItsCommandAndClosedByItsButton) {
   bool wasModal = false;
   ModalScript script;
