@@ -163,6 +163,23 @@ TEST_F(LayoutShape, SpinsGoFromOneToNinetyNineThousand) {
   }
 }
 
+TEST_F(LayoutShape, ItsRowsLineUpBehindCaptionsOf160Pixels) {
+  LayoutShapeDialog dialog(parent_, plan_);
+  for (int shape = 0; shape < 4; ++shape) {
+    Choose(dialog, shape);
+    const std::vector<wxSpinCtrl*> spins = FindControls<wxSpinCtrl>(dialog);
+    const std::vector<wxStaticText*> texts = FindControls<wxStaticText>(dialog);
+    // Behind three other texts: a caption and a unit for each row.
+    ASSERT_EQ(texts.size(), 3 + 2 * spins.size());
+    for (std::size_t row = 0; row < spins.size(); ++row) {
+      EXPECT_GE(texts[3 + 2 * row]->GetSize().x, 160) << shape;
+      EXPECT_GE(spins[row]->GetSize().x, 90) << shape;
+      EXPECT_EQ(spins[row]->GetPosition().x, spins[0]->GetPosition().x) << shape;
+      EXPECT_GT(texts[4 + 2 * row]->GetPosition().x, spins[row]->GetRect().GetRight()) << shape;
+    }
+  }
+}
+
 // 150 cm = 1500 mm, 80 cm = 800 mm
 TEST_F(LayoutShape, ApplyGivesTheVerticesInMillimetresAndRemembersTheValues) {
   plan_.units = kCentimetres;

@@ -9,6 +9,7 @@
 
 #include <limits>
 
+#include "canvas/operations/level_edits.h"
 #include "tests/dialogs/dialog_fixture.h"
 
 namespace vantrel {
@@ -117,6 +118,14 @@ TEST_F(LevelManager, HasItsTextsColumnsAndSize) {
     EXPECT_EQ(list.GetColumnWidth(i), widths[i]);
   }
   EXPECT_EQ(FindControl<wxButton>(dialog(), "Close")->GetId(), wxID_OK);
+}
+
+TEST_F(LevelManager, StandsInTheMiddleOfItsParent) {
+  parent_->SetSize(340, 210, 720, 560);
+  const wxRect parent = parent_->GetRect();
+  const wxRect rect = dialog().GetRect();
+  EXPECT_NEAR(rect.x + rect.width / 2, parent.x + parent.width / 2, 1);
+  EXPECT_NEAR(rect.y + rect.height / 2, parent.y + parent.height / 2, 1);
 }
 
 TEST_F(LevelManager, ListsTheLevelsInTheirOrder) {
@@ -231,6 +240,13 @@ TEST_F(LevelManager, AddKeepsTheSelectedRow) {
   add("Yard");
   EXPECT_EQ(SelectedRow(dialog()), 1);
   EXPECT_EQ(plan_.activeLevel, 2);
+}
+
+TEST_F(LevelManager, ANewLevelBehindManyComesIntoView) {
+  while (plan_.levels.size() < 100) addLevel(plan_, "Deck");
+  add("Yard");
+  // The list shows about eight rows.
+  EXPECT_GT(ListOf(dialog()).GetTopItem(), 80);
 }
 
 TEST_F(LevelManager, AddWithoutANameAddsNone) {

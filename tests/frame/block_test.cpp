@@ -223,6 +223,19 @@ TEST_F(Blocks, PlacingFitsTheViewToTheTrackAndNotToTheBaseboard) {
   EXPECT_EQ(placed, frame().canvas().view().scale);
 }
 
+// The view at scale 1 has its origin at pixel (60, 60).
+TEST_F(Blocks, SavingInMidDragEndsItAndSavesThePieceWhereItIsThen) {
+  addPiece();
+  showFrame();
+  frame().canvas().resetViewUnitScale();
+  dragOnCanvas({160, 60}, {160, 260});
+  saveUnder("Yard");
+  EXPECT_FALSE(frame().canvas().HasCapture());
+  EXPECT_NE(ReadFileText(library("Yard.xml")).find("y=\"200.0000\""), std::string::npos);
+  mouseOnCanvas(wxEVT_MOTION, {160, 360}, true);
+  EXPECT_EQ(plan().pieces[0].y, 200.0);
+}
+
 TEST_F(Blocks, TheSaveEntryIsAlwaysOffered) {
   EXPECT_TRUE(frame().GetMenuBar()->IsEnabled(2001));
   wxUpdateUIEvent event(2001);

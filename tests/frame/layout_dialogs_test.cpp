@@ -5,6 +5,9 @@
 #include <wx/textctrl.h>
 #include <wx/toolbar.h>
 
+#include <functional>
+#include <utility>
+
 #include "canvas/canvas_panel.h"
 #include "properties/properties_panel.h"
 #include "tests/frame/frame_fixture.h"
@@ -42,6 +45,30 @@ class LayoutDialogs : public FrameTest {
       Press(dialog, "Close");
     });
     command(kCmdLevels);
+  }
+  // Whether the canvas is painted because of `act`, which is to show nothing on the screen.
+  bool paints(const std::function<void()>& act) {
+    showFrame();
+    int count = 0;
+    frame().canvas().Bind(wxEVT_PAINT, [&count](wxPaintEvent& event) {
+      ++count;
+      event.Skip();
+    });
+    pump(40);
+    count = 0;
+    pump(40);
+    EXPECT_EQ(count, 0) << "at rest nothing is painted";
+    act();
+    for (int i = 0; i < 50 && count == 0; ++i) pump(20);
+    return count > 0;
+  }
+
+ private:
+  static void pump(int times) {
+    for (int i = 0; i < times; ++i) {
+      wxTheApp->Yield();
+      wxMilliSleep(5);
+    }
   }
 };
 
@@ -143,6 +170,39 @@ TEST_F(LayoutDialogs, WhatARemovedLevelTookAlongIsGoneFromPanelAndStatusBar) {
   EXPECT_EQ(plan().pieces.size(), 1u);
   EXPECT_EQ(statusText(kStatusPieces), "Pieces: 1");
   EXPECT_EQ(frame().properties().page().pieceId, -1);
+}
+
+TEST_F(LayoutDialogs, ABaseboardThatWentIsGoneFromTheCanvas) {
+  plan().baseboard = kTable;
+  ModalScript script;
+  script.dialog("Layout Baseboard", wxID_OK);
+  EXPECT_TRUE(paints([this] { command(kCmdLayoutShape); }));
+}
+
+TEST_F(LayoutDialogs, WhatTheLevelsDialogDidIsPaintedHoweverItEnds) {
+  ModalScript script;
+  script.dialog("Manage Levels", wxID_CANCEL);
+  EXPECT_TRUE(paints([this] { command(kCmdLevels); }));
+}
+
+// The view at scale 1 has its origin at pixel (60, 60).
+TEST_F(LayoutDialogs, ADragEndsBeforeADialogOpens) {
+  for (const auto& [id, title] :
+       {std::pair(kCmdLevels, "Manage Levels"), std::pair(kCmdLayoutShape, "Layout Baseboard")}) {
+    plan().pieces.clear();
+    addPiece();
+    showFrame();
+    frame().canvas().resetViewUnitScale();
+    dragOnCanvas({160, 60}, {160, 260});
+    ASSERT_TRUE(frame().canvas().HasCapture());
+    ModalScript script;
+    script.dialog(title, wxID_CANCEL,
+                  [this](wxDialog&) { EXPECT_FALSE(frame().canvas().HasCapture()); });
+    command(id);
+    mouseOnCanvas(wxEVT_MOTION, {160, 360}, true);
+    EXPECT_EQ(plan().pieces[0].y, 200.0) << title;
+    mouseOnCanvas(wxEVT_LEFT_UP, {160, 360}, false);
+  }
 }
 
 }  // namespace

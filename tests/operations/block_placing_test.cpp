@@ -212,6 +212,26 @@ TEST(PlaceBlock, ABlockBeyondAHundredKilometresStaysWhereItWas) {
   EXPECT_EQ(layout.pieces[0].y, 40.0);
 }
 
+TEST(PlaceBlock, ABlockAtAHundredKilometresComesToTheOrigin) {
+  Layout layout;
+  Block block;
+  block.pieces = {Straight(1, 1e8, 40)};
+  placeBlock(layout, block);
+  EXPECT_EQ(layout.pieces[0].x, 0.0);
+  EXPECT_EQ(layout.pieces[0].y, 0.0);
+}
+
+// The search for the smallest y begins at 1e9: 3e9 - 1e9 = 2e9. Only x says whether a block is too
+// far away.
+TEST(PlaceBlock, ABlockBeyondAThousandKilometresInYAloneComesThatMuchNearer) {
+  Layout layout;
+  Block block;
+  block.pieces = {Straight(1, 300, 3e9)};
+  placeBlock(layout, block);
+  EXPECT_EQ(layout.pieces[0].x, 0.0);
+  EXPECT_EQ(layout.pieces[0].y, 2e9);
+}
+
 TEST(PlaceBlock, APlaceThatIsNoNumberDoesNotTakeTheOthersAlong) {
   for (const double nowhere : {kNan, kInf, -kInf}) {
     Layout layout;
