@@ -216,7 +216,10 @@ void PaintScene(const Scene& scene, const Camera& camera, PaintSize size) {
   glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
   DrawFloorGrid();
   DrawAxes();
+  PaintContents(scene);
+}
 
+void PaintContents(const Scene& scene) {
   MeshDrawing meshes;
   meshes.draw(scene.baseMesh);
   DrawScenery(meshes, scene);

@@ -20,4 +20,7 @@ bool SetUpPainting();
 // projection stays as it is.
 void PaintScene(const Scene& scene, const Camera& camera, PaintSize size);
 
+// Only what is in the scene, through whatever matrices and over whatever picture there are.
+void PaintContents(const Scene& scene);
+
 }  // namespace vantrel
