@@ -145,4 +145,11 @@ Layout SampleBuilder::take() {
   return std::move(layout_);
 }
 
+Layout SampleBuilder::takeSelected() {
+  Layout block = take();
+  for (Piece& piece : block.pieces) piece.sel = true;
+  for (SceneryItem& item : block.scenery) item.sel = true;
+  return block;
+}
+
 }  // namespace vantrel::samples

@@ -51,6 +51,8 @@ class SampleBuilder {
 
   // The finished plan: nothing selected, no history.
   Layout take();
+  // The same as a block: everything selected.
+  Layout takeSelected();
 
  private:
   Layout layout_;
@@ -62,6 +64,15 @@ struct Sample {
   Layout (*make)();
 };
 const std::vector<Sample>& AllSamples();
+
+// A block of the library: what the plan holds is saved as a whole. `folder` is that of the track
+// system in the library.
+struct SampleBlock {
+  std::string_view folder;
+  std::string_view name;  // also the file's name
+  Layout (*make)();
+};
+const std::vector<SampleBlock>& AllBlocks();
 
 Layout DoubleOval();
 Layout KTerminus();
