@@ -27,8 +27,8 @@ constexpr int kMakerBorder = 6;        // pixels
 constexpr int kMakerGap = 4;
 constexpr int kButtonBorder = 8;
 
-wxBitmap ScaledPicture(int id, wxSize size) {
-  const wxImage image = LoadPicture(id);
+wxBitmap ScaledPicture(int id, std::span<const EmbeddedPicture> carried, wxSize size) {
+  const wxImage image = LoadPicture(id, carried);
   if (!image.IsOk()) return {};
   return wxBitmap(image.Scale(size.x, size.y, wxIMAGE_QUALITY_HIGH));
 }
@@ -39,10 +39,10 @@ wxFont FontOfSize(int points, wxFontWeight weight) {
 
 }  // namespace
 
-SplashPictures LoadSplashPictures(bool playful) {
+SplashPictures LoadSplashPictures(bool playful, std::span<const EmbeddedPicture> carried) {
   SplashPictures pictures;
-  pictures.main = ScaledPicture(kSplashPicture, kPictureSize);
-  if (playful) pictures.inset = ScaledPicture(kInsetPicture, kInsetSize);
+  pictures.main = ScaledPicture(kSplashPicture, carried, kPictureSize);
+  if (playful) pictures.inset = ScaledPicture(kInsetPicture, carried, kInsetSize);
   return pictures;
 }
 
@@ -64,11 +64,12 @@ void PaintSplash(wxDC& dc, const SplashPictures& pictures) {
 wxBEGIN_EVENT_TABLE(SplashDialog, wxDialog) EVT_KEY_DOWN(SplashDialog::onKeyDown)
     wxEND_EVENT_TABLE()
 
-        SplashDialog::SplashDialog(wxWindow* parent, LinkOpener openLink)
+        SplashDialog::SplashDialog(wxWindow* parent, LinkOpener openLink,
+                                   std::span<const EmbeddedPicture> carried)
     : wxDialog(parent, wxID_ANY, kProgramTitle, wxDefaultPosition, kDialogSize),
       openLink_(std::move(openLink)) {
   wxInitAllImageHandlers();
-  pictures_ = LoadSplashPictures(Prefs().playful);
+  pictures_ = LoadSplashPictures(Prefs().playful, carried);
   build();
   Centre(wxBOTH);
   done_->SetFocus();

@@ -4,6 +4,9 @@
 #include <wx/bitmap.h>
 #include <wx/dialog.h>
 
+#include <span>
+
+#include "app/services/embedded_pictures.h"
 #include "app/services/web_link.h"
 
 class wxButton;
@@ -17,14 +20,15 @@ struct SplashPictures {
   wxBitmap inset;  // 120 by 160, in playful mode only
 };
 
-SplashPictures LoadSplashPictures(bool playful);
+SplashPictures LoadSplashPictures(bool playful, std::span<const EmbeddedPicture> carried);
 
 // The upper panel: the picture with its inset, or the program's name without one.
 void PaintSplash(wxDC& dc, const SplashPictures& pictures);
 
 class SplashDialog : public wxDialog {
  public:
-  explicit SplashDialog(wxWindow* parent, LinkOpener openLink = OpenInBrowser);
+  explicit SplashDialog(wxWindow* parent, LinkOpener openLink = OpenInBrowser,
+                        std::span<const EmbeddedPicture> carried = EmbeddedPictures());
 
  private:
   void build();

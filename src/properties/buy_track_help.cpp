@@ -26,8 +26,8 @@ constexpr const char* kExplanation =
 
 }  // namespace
 
-wxBitmap BuyTrackPicture(bool playful) {
-  return playful ? ScaledBuyTrackPicture(LoadPicture(kInsetPicture)) : wxBitmap();
+wxBitmap BuyTrackPicture(bool playful, std::span<const EmbeddedPicture> carried) {
+  return playful ? ScaledBuyTrackPicture(LoadPicture(kInsetPicture, carried)) : wxBitmap();
 }
 
 wxBitmap ScaledBuyTrackPicture(const wxImage& image) {

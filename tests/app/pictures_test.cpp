@@ -21,8 +21,48 @@ std::vector<unsigned char> JpegOf(int width, int height) {
   return data;
 }
 
-TEST(Pictures, ThisBuildCarriesNone) {
+#if VANTREL_HAS_PICTURES
+TEST(Pictures, TheSplashFillsItsPanelWithoutBeingStretched) {
+  EXPECT_EQ(LoadPicture(101).GetSize(), wxSize(900, 600));
+}
+
+TEST(Pictures, TheHelpsSidePictureHasTheSizeItIsShownAt) {
+  EXPECT_EQ(LoadPicture(103).GetSize(), wxSize(368, 660));
+}
+
+TEST(Pictures, TheInsetIsUprightAndSuitsBothPlacesThatShowIt) {
+  // It is shown at 120 by 160, 0.750 wide for its height, and at 450 by 510, 0.882. Halfway, at
+  // 0.8136, it is stretched by 8.5 % in either.
+  const wxSize size = LoadPicture(102).GetSize();
+  ASSERT_GE(size.y, 510);
+  EXPECT_NEAR(static_cast<double>(size.x) / size.y, 0.8136, 0.005);
+}
+
+TEST(Pictures, EachIsSmallEnoughToLoadAtEveryStart) {
+  ASSERT_EQ(EmbeddedPictures().size(), 3u);
+  for (const EmbeddedPicture& picture : EmbeddedPictures())
+    EXPECT_LT(picture.jpeg.size(), 200u * 1024u) << picture.id;
+}
+#else
+TEST(Pictures, ABuildWithoutThemCarriesNone) {
+  EXPECT_TRUE(EmbeddedPictures().empty());
   for (const int id : {101, 102, 103}) EXPECT_FALSE(LoadPicture(id).IsOk()) << id;
+}
+#endif
+
+TEST(Pictures, WithoutAnyEachIsInvalid) {
+  for (const int id : {101, 102, 103}) EXPECT_FALSE(LoadPicture(id, {}).IsOk()) << id;
+}
+
+TEST(Pictures, AnUnknownIdGivesAnInvalidImage) {
+  for (const int id : {-1, 0, 100, 104}) EXPECT_FALSE(LoadPicture(id).IsOk()) << id;
+}
+
+TEST(Pictures, WhatIsNoJpegAtAllGivesAnInvalidImage) {
+  const std::vector<unsigned char> text = {'n', 'o', ' ', 'p', 'i', 'c', 't', 'u', 'r', 'e'};
+  const EmbeddedPicture pictures[] = {{101, text}, {102, {}}};
+  EXPECT_FALSE(LoadPicture(101, pictures).IsOk());
+  EXPECT_FALSE(LoadPicture(102, pictures).IsOk());
 }
 
 TEST(Pictures, AreFoundByTheirIdAndDecoded) {

@@ -54,7 +54,7 @@ void PressKey(wxWindow& window, int code) {
 using Splash = FrameTest;
 
 TEST_F(Splash, WithoutPicturesOpensWithTheProgramsNameOnAPlainPanel) {
-  const SplashPictures none = LoadSplashPictures(true);
+  const SplashPictures none = LoadSplashPictures(true, {});
   EXPECT_FALSE(none.main.IsOk());
   EXPECT_FALSE(none.inset.IsOk());
   const wxImage image = Painted(none);
@@ -69,7 +69,7 @@ TEST_F(Splash, WithoutPicturesOpensWithTheProgramsNameOnAPlainPanel) {
   // And it can be shown and dismissed.
   ModalScript script;
   script.shown("Vantrel v1.5 by Kelmor", [](wxDialog& dialog) { PressKey(dialog, WXK_RETURN); });
-  EXPECT_EQ(SplashDialog(&frame()).ShowModal(), wxID_OK);
+  EXPECT_EQ(SplashDialog(&frame(), OpenInBrowser, {}).ShowModal(), wxID_OK);
 }
 
 TEST_F(Splash, APictureFillsThePanelAndTheInsetStandsInItsCorner) {
@@ -85,6 +85,25 @@ TEST_F(Splash, APictureFillsThePanelAndTheInsetStandsInItsCorner) {
   EXPECT_EQ(At(image, 890, 589), wxColour(10, 120, 10));
   EXPECT_EQ(At(image, 889, 590), wxColour(10, 120, 10));
   EXPECT_EQ(WhitePixels(image, wxRect(0, 0, 900, 600)), 0) << "no name over the picture";
+}
+
+TEST_F(Splash, TheCarriedPicturesAreScaledToTheirPlaces) {
+  if (EmbeddedPictures().empty()) GTEST_SKIP() << "a build without pictures";
+  const SplashPictures playful = LoadSplashPictures(true, EmbeddedPictures());
+  EXPECT_EQ(playful.main.GetSize(), wxSize(900, 600));
+  EXPECT_EQ(playful.inset.GetSize(), wxSize(120, 160));
+  const SplashPictures plain = LoadSplashPictures(false, EmbeddedPictures());
+  EXPECT_TRUE(plain.main.IsOk());
+  EXPECT_FALSE(plain.inset.IsOk());
+}
+
+TEST_F(Splash, PicturesThatCannotBeReadAreAsGoodAsNone) {
+  const unsigned char garbage[] = {0xFF, 0xD8, 0xFF, 0x00, 0x12};
+  const EmbeddedPicture broken[] = {{101, garbage}, {102, garbage}};
+  const SplashPictures pictures = LoadSplashPictures(true, broken);
+  EXPECT_FALSE(pictures.main.IsOk());
+  EXPECT_FALSE(pictures.inset.IsOk());
+  EXPECT_EQ(At(Painted(pictures), 450, 300), wxColour(30, 40, 60));
 }
 
 TEST_F(Splash, EnterAndEscapeEndItAndOtherKeysDoNot) {

@@ -427,6 +427,10 @@ TEST_F(TallyPanelTest, PutsThePictureAtTheLeftOfTheExplanation) {
 
 TEST_F(TallyPanelTest, HasNoPictureInThePlainModeNorOneThatCannotBeRead) {
   EXPECT_FALSE(BuyTrackPicture(false).IsOk());
+  EXPECT_FALSE(BuyTrackPicture(true, {}).IsOk());
+  const unsigned char garbage[] = {0xFF, 0xD8, 0xFF, 0x00, 0x12};
+  const EmbeddedPicture broken[] = {{kInsetPicture, garbage}};
+  EXPECT_FALSE(BuyTrackPicture(true, broken).IsOk());
   EXPECT_FALSE(ScaledBuyTrackPicture(wxImage()).IsOk());
 }
 

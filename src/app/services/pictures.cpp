@@ -5,16 +5,6 @@
 #include <wx/mstream.h>
 
 namespace vantrel {
-namespace {
-
-// The place for the maker's pictures: add rows, nothing else changes.
-constexpr std::span<const EmbeddedPicture> kPictures;
-
-}  // namespace
-
-wxImage LoadPicture(int id) {
-  return LoadPicture(id, kPictures);
-}
 
 wxImage LoadPicture(int id, std::span<const EmbeddedPicture> pictures) {
   const wxLogNull quiet;  // a picture that doesn't decode is as good as none

@@ -1,4 +1,4 @@
-// The pictures that a build carries inside the executable, as JPEG data. This build carries none;
+// The pictures that a build carries inside the executable, as JPEG data. A build may carry none:
 // every user copes with an invalid image.
 #pragma once
 
@@ -6,19 +6,15 @@
 
 #include <span>
 
+#include "app/services/embedded_pictures.h"
+
 namespace vantrel {
 
 inline constexpr int kSplashPicture = 101;
 inline constexpr int kInsetPicture = 102;
 inline constexpr int kHelpPicture = 103;
 
-struct EmbeddedPicture {
-  int id = 0;
-  std::span<const unsigned char> jpeg;
-};
-
 // The picture with this id, or an invalid image when it is missing or can't be decoded.
-wxImage LoadPicture(int id);
-wxImage LoadPicture(int id, std::span<const EmbeddedPicture> pictures);
+wxImage LoadPicture(int id, std::span<const EmbeddedPicture> pictures = EmbeddedPictures());
 
 }  // namespace vantrel
