@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, puts the program into the user's own folder, and starts it there.
+# Installs what is missing, builds, puts the program into the user's own folder and into the menu of
+# the user's desktop, and starts it there.
 # Plans and preferences live beside the installed program, so a rebuild never touches them.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -9,6 +10,7 @@ need_packages "${build_packages[@]}"
 build release vantrel
 folder="$HOME/.local/opt/vantrel"
 cmake --install "$root/build/release" --prefix "$folder" >/dev/null
+"$folder/share/vantrel/integrate.sh" || echo "It could not be put into the desktop's menu." >&2
 echo "Vantrel is in $folder"
 
 if have_display; then

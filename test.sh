@@ -5,7 +5,7 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$root/scripts/lib.sh"
 
-need_packages "${build_packages[@]}" "${display_packages[@]}"
+need_packages "${build_packages[@]}" "${display_packages[@]}" "${test_packages[@]}"
 
 echo "== Sanitizers: the windowless rooms"
 build asan
