@@ -35,6 +35,10 @@ struct ViewTransform {
   double scale = 0.4;  // device units per mm
   double offsetX = 60.0;
   double offsetY = 60.0;
+  // What has a size of its own, such as a line's width or a text's padding, is told in pixels of a
+  // screen. On a page of 1,200 dots an inch a pixel must be many dots, or nobody could see it.
+  double pixel = 1.0;      // device units in a pixel; 1 on a screen
+  double fontScale = 1.0;  // from the points that a screen has to those of the device's fonts
 
   // The device point of a world point, truncated toward zero at the last step.
   constexpr DevicePoint toDevice(Vec2 world) const {
@@ -42,6 +46,20 @@ struct ViewTransform {
   }
   constexpr Vec2 toWorld(DevicePoint device) const {
     return {(device.x - offsetX) / scale, (device.y - offsetY) / scale};
+  }
+
+  // Pixels per mm: what decides whether details are shown, and how big texts are.
+  constexpr double pixelScale() const { return scale / pixel; }
+  // `count` pixels in device units, truncated; never nothing for one or more.
+  constexpr int pixels(int count) const {
+    const int units = DeviceInt(count * pixel);
+    return count > 0 && units < 1 ? 1 : units;
+  }
+  // A screen's point size on this device. The limit only keeps the text engine from overflowing.
+  constexpr int fontPoints(int points) const {
+    constexpr int kMostPoints = 4000;
+    const int scaled = DeviceInt(points * fontScale + 0.5);
+    return scaled < 1 ? 1 : scaled > kMostPoints ? kMostPoints : scaled;
   }
 
   friend bool operator==(const ViewTransform&, const ViewTransform&) = default;

@@ -19,23 +19,23 @@ const wxColour kText(20, 20, 20);
 constexpr double kLabelPointsPerScale = 11.0;
 constexpr int kSmallestLabelPoints = 8;
 const wxColour kLabelBackground(255, 255, 220, 200);
-constexpr int kLabelFramePad = 2;  // device units
+constexpr int kLabelFramePad = 2;  // pixels
 
 const wxColour kTape(60, 60, 60);
 constexpr int kTapePenWidth = 2;
 constexpr int kSelectedTapePenWidth = 3;
-constexpr double kLongestBareTape = 6.0;  // device units; a longer one has arrow heads
-constexpr double kHeadLength = 10.0;      // device units
+constexpr double kLongestBareTape = 6.0;  // pixels; a longer one has arrow heads
+constexpr double kHeadLength = 10.0;      // pixels
 constexpr double kHeadHalfWidth = 5.0;
 constexpr int kTapeTextPoints = 10;
 const wxColour kTapePlate(255, 248, 220, 235);
 const wxColour kSelectedTapePlate(220, 232, 255, 235);
-constexpr int kTapePlatePadX = 5;  // device units
+constexpr int kTapePlatePadX = 5;  // pixels
 constexpr int kTapePlatePadY = 2;
 
 bool LabelOutOfView(const ContentsPaint& paint, const Label& label, wxPoint at,
                     const TextBounds& bounds) {
-  const int slack = kLabelFramePad + bounds.perCharacter();
+  const int slack = paint.view.pixels(kLabelFramePad) + bounds.perCharacter();
   // Most labels out of view lie below or to the right, where their size doesn't matter.
   if (at.x - slack > paint.area.right || at.y - slack > paint.area.bottom) return true;
   const wxSize size = bounds.of(label.text);
@@ -45,18 +45,19 @@ bool LabelOutOfView(const ContentsPaint& paint, const Label& label, wxPoint at,
 
 void DrawLabelFrame(ContentsPaint& paint, const Label& label, wxPoint at) {
   const wxSize size = MeasureText(*paint.context.textExtents, paint.dc, label.text).size;
-  paint.dc.SetPen(wxPen(kSelected, 1, wxPENSTYLE_DOT));
+  const int pad = paint.view.pixels(kLabelFramePad);
+  paint.dc.SetPen(wxPen(kSelected, paint.view.pixels(1), wxPENSTYLE_DOT));
   paint.dc.SetBrush(*wxTRANSPARENT_BRUSH);
-  paint.dc.DrawRectangle(at.x - kLabelFramePad, at.y - kLabelFramePad,
-                         size.GetWidth() + 2 * kLabelFramePad,
-                         size.GetHeight() + 2 * kLabelFramePad);
+  paint.dc.DrawRectangle(at.x - pad, at.y - pad, size.GetWidth() + 2 * pad,
+                         size.GetHeight() + 2 * pad);
 }
 
 // The tape's direction is the unit vector `ahead`; the head's base lies `back` device units along
-// it from the tip. The base is truncated before its two corners are.
-void DrawTapeHead(wxDC& dc, wxPoint tip, Vec2 ahead, double back) {
+// it from the tip, and its corners `halfWidth` to the sides. The base is truncated before its two
+// corners are.
+void DrawTapeHead(wxDC& dc, wxPoint tip, Vec2 ahead, double back, double halfWidth) {
   const wxPoint base(DeviceInt(tip.x + back * ahead.x), DeviceInt(tip.y + back * ahead.y));
-  const Vec2 aside{kHeadHalfWidth * -ahead.y, kHeadHalfWidth * ahead.x};
+  const Vec2 aside{halfWidth * -ahead.y, halfWidth * ahead.x};
   DrawClosedPolygon(dc, {tip,
                          {DeviceInt(base.x + aside.x), DeviceInt(base.y + aside.y)},
                          {DeviceInt(base.x - aside.x), DeviceInt(base.y - aside.y)}});
@@ -64,18 +65,20 @@ void DrawTapeHead(wxDC& dc, wxPoint tip, Vec2 ahead, double back) {
 
 void DrawTape(ContentsPaint& paint, wxPoint from, wxPoint to, bool selected) {
   const wxPoint ends[] = {from, to};
-  if (paint.area.missesPoints(ends, static_cast<int>(kHeadLength) + kSelectedTapePenWidth)) return;
+  const int reach = static_cast<int>(kHeadLength) + kSelectedTapePenWidth;
+  if (paint.area.missesPoints(ends, paint.view.pixels(reach))) return;
   wxDC& dc = paint.dc;
   const wxColour& colour = selected ? kSelected : kTape;
-  dc.SetPen(wxPen(colour, selected ? kSelectedTapePenWidth : kTapePenWidth));
+  dc.SetPen(wxPen(colour, paint.view.pixels(selected ? kSelectedTapePenWidth : kTapePenWidth)));
   dc.DrawLine(from, to);
   const Vec2 span{static_cast<double>(to.x) - from.x, static_cast<double>(to.y) - from.y};
   const double length = std::hypot(span.x, span.y);
-  if (length <= kLongestBareTape) return;
+  const double pixel = paint.view.pixel;
+  if (length <= kLongestBareTape * pixel) return;
   const Vec2 ahead{span.x / length, span.y / length};
   dc.SetBrush(wxBrush(colour));
-  DrawTapeHead(dc, from, ahead, kHeadLength);
-  DrawTapeHead(dc, to, ahead, -kHeadLength);
+  DrawTapeHead(dc, from, ahead, kHeadLength * pixel, kHeadHalfWidth * pixel);
+  DrawTapeHead(dc, to, ahead, -kHeadLength * pixel, kHeadHalfWidth * pixel);
 }
 
 void DrawTapeText(ContentsPaint& paint, const Measurement& tape, const wxFont& font,
@@ -85,12 +88,14 @@ void DrawTapeText(ContentsPaint& paint, const Measurement& tape, const wxFont& f
   const wxPoint anchor =
       ToPoint(paint.view.toDevice({(tape.startX + tape.endX) / 2.0 + tape.moveX,
                                    (tape.startY + tape.endY) / 2.0 + tape.moveY}));
-  if (paint.area.missesCentredBox(anchor, bounds.ofLength(length), kTapePlatePadX)) return;
+  if (paint.area.missesCentredBox(anchor, bounds.ofLength(length),
+                                  paint.view.pixels(kTapePlatePadX)))
+    return;
   paint.dc.SetFont(font);
   paint.dc.SetTextForeground(kText);
   paint.dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
   paint.dc.SetBrush(wxBrush(tape.sel ? kSelectedTapePlate : kTapePlate));
-  paint.dc.SetPen(wxPen(tape.sel ? kSelected : kTape, 1));
+  paint.dc.SetPen(wxPen(tape.sel ? kSelected : kTape, paint.view.pixels(1)));
   DrawTextOnPlate(paint, FormatLength(length, paint.layout.units), anchor, kTapePlatePadX,
                   kTapePlatePadY);
 }
@@ -101,7 +106,8 @@ void DrawLabels(ContentsPaint& paint) {
   if (paint.layout.labels.empty()) return;
   wxDC& dc = paint.dc;
   const wxFont font =
-      PlanFont(PlanFontSize(paint.view.scale * kLabelPointsPerScale, kSmallestLabelPoints),
+      PlanFont(paint.view,
+               PlanFontSize(paint.view.pixelScale() * kLabelPointsPerScale, kSmallestLabelPoints),
                wxFONTWEIGHT_BOLD);
   const TextBounds bounds(dc, font);
   dc.SetFont(font);
@@ -118,7 +124,7 @@ void DrawLabels(ContentsPaint& paint) {
 
 void DrawMeasurements(ContentsPaint& paint) {
   if (paint.layout.measurements.empty()) return;
-  const wxFont font = PlanFont(kTapeTextPoints, wxFONTWEIGHT_BOLD);
+  const wxFont font = PlanFont(paint.view, kTapeTextPoints, wxFONTWEIGHT_BOLD);
   const TextBounds bounds(paint.dc, font);
   for (const Measurement& tape : paint.layout.measurements) {
     DrawTape(paint, ToPoint(paint.view.toDevice({tape.startX, tape.startY})),

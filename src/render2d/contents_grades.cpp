@@ -26,7 +26,7 @@ const wxColour kUpColour(220, 100, 20);
 constexpr double kSlopeTextScale = 0.25;
 constexpr double kSlopePointsPerScale = 8.0;
 constexpr int kSmallestSlopePoints = 7;
-constexpr int kSlopeTextRight = 4;  // device units, from the tip
+constexpr int kSlopeTextRight = 4;  // pixels, from the tip
 constexpr int kSlopeTextUp = 10;
 
 // Where an arrow stands on its piece and where it points.
@@ -60,7 +60,7 @@ void DrawArrow(ContentsPaint& paint, const Arrow& arrow, const wxColour& colour)
   };
   const wxPoint tip = device(kArrowLengthMm, 0.0);
   const double neck = kArrowLengthMm - kHeadLengthMm;
-  paint.dc.SetPen(wxPen(colour, kShaftPenWidth));
+  paint.dc.SetPen(wxPen(colour, paint.view.pixels(kShaftPenWidth)));
   paint.dc.DrawLine(device(0.0, 0.0), tip);
   paint.dc.SetBrush(wxBrush(colour));
   DrawClosedPolygon(paint.dc,
@@ -72,16 +72,18 @@ void DrawSlope(ContentsPaint& paint, const Arrow& arrow, const wxColour& colour,
   const wxPoint tip = ToPoint(paint.view.toDevice(arrow.at(kArrowLengthMm, 0.0)));
   paint.dc.SetTextForeground(colour);
   paint.dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
-  paint.dc.DrawText(DisplayText(text), tip.x + kSlopeTextRight, tip.y - kSlopeTextUp);
+  paint.dc.DrawText(DisplayText(text), tip.x + paint.view.pixels(kSlopeTextRight),
+                    tip.y - paint.view.pixels(kSlopeTextUp));
 }
 
 }  // namespace
 
 void DrawGradeArrows(ContentsPaint& paint) {
   if (paint.layout.gradeRuns.empty()) return;
-  const bool withText = paint.view.scale >= kSlopeTextScale;
+  const bool withText = paint.view.pixelScale() >= kSlopeTextScale;
   const wxFont font =
-      PlanFont(PlanFontSize(paint.view.scale * kSlopePointsPerScale, kSmallestSlopePoints),
+      PlanFont(paint.view,
+               PlanFontSize(paint.view.pixelScale() * kSlopePointsPerScale, kSmallestSlopePoints),
                wxFONTWEIGHT_BOLD);
   const TextBounds bounds(paint.dc, font);
   paint.dc.SetFont(font);
@@ -92,8 +94,10 @@ void DrawGradeArrows(ContentsPaint& paint) {
     if (def == nullptr) continue;
     const Arrow arrow = ArrowOf(*piece, *def);
     const std::string text = SlopeText(run.deg);
-    const double textReach = bounds.of(text).GetWidth() + bounds.perCharacter() + kSlopeTextUp;
-    if (paint.outOfView(arrow.base, kArrowLengthMm, kShaftPenWidth + (withText ? textReach : 0.0)))
+    const double textReach =
+        bounds.of(text).GetWidth() + bounds.perCharacter() + paint.view.pixels(kSlopeTextUp);
+    if (paint.outOfView(arrow.base, kArrowLengthMm,
+                        paint.view.pixels(kShaftPenWidth) + (withText ? textReach : 0.0)))
       continue;
     const wxColour& colour = run.deg < 0.0 ? kDownColour : kUpColour;
     DrawArrow(paint, arrow, colour);

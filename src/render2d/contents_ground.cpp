@@ -21,8 +21,8 @@ const wxColour kDeckFill(235, 220, 190);
 const wxColour kGridColour(220, 220, 215);
 const wxColour kOriginColour(180, 180, 220);
 constexpr int kOriginPenWidth = 2;
-constexpr int kOriginArm = 10;        // device units
-constexpr double kFinestPitch = 6.0;  // device units
+constexpr int kOriginArm = 10;        // pixels
+constexpr double kFinestPitch = 6.0;  // pixels
 constexpr double kCoarsestPitch = 400.0;
 
 constexpr double kShortestLabelledEdgeMm = 10.0;
@@ -31,7 +31,7 @@ constexpr int kEdgeLabelPoints = 11;
 const wxColour kEdgeLabelText(80, 50, 20);
 const wxColour kPlateFill(255, 248, 220, 200);
 const wxColour kPlateEdge(180, 140, 80);
-constexpr int kPlatePadX = 4;  // device units
+constexpr int kPlatePadX = 4;  // pixels
 constexpr int kPlatePadY = 2;
 
 bool HasBaseboard(const ContentsPaint& paint) {
@@ -41,8 +41,8 @@ bool HasBaseboard(const ContentsPaint& paint) {
 void DrawBoardPolygon(ContentsPaint& paint, const std::vector<Vec2>& outline,
                       const wxBrush& brush) {
   const std::vector<wxPoint> points = DevicePolygon(outline, paint.view);
-  if (paint.area.missesPoints(points, kBoardPenWidth)) return;
-  paint.dc.SetPen(wxPen(kBoardEdge, kBoardPenWidth));
+  if (paint.area.missesPoints(points, paint.view.pixels(kBoardPenWidth))) return;
+  paint.dc.SetPen(wxPen(kBoardEdge, paint.view.pixels(kBoardPenWidth)));
   paint.dc.SetBrush(brush);
   DrawClosedPolygon(paint.dc, points);
 }
@@ -75,22 +75,24 @@ GridLines LinesAcross(double offset, double pitch, int extent) {
 
 void DrawOriginCross(ContentsPaint& paint) {
   const wxPoint origin = ToPoint(paint.view.toDevice({0.0, 0.0}));
-  if (paint.area.missesCircle(origin.x, origin.y, kOriginArm + kOriginPenWidth)) return;
-  paint.dc.SetPen(wxPen(kOriginColour, kOriginPenWidth));
-  paint.dc.DrawLine(origin.x - kOriginArm, origin.y, origin.x + kOriginArm, origin.y);
-  paint.dc.DrawLine(origin.x, origin.y - kOriginArm, origin.x, origin.y + kOriginArm);
+  const int arm = paint.view.pixels(kOriginArm);
+  const int penWidth = paint.view.pixels(kOriginPenWidth);
+  if (paint.area.missesCircle(origin.x, origin.y, arm + penWidth)) return;
+  paint.dc.SetPen(wxPen(kOriginColour, penWidth));
+  paint.dc.DrawLine(origin.x - arm, origin.y, origin.x + arm, origin.y);
+  paint.dc.DrawLine(origin.x, origin.y - arm, origin.x, origin.y + arm);
 }
 
 void DrawBaseboardEdgeLabels(ContentsPaint& paint) {
   const std::vector<Vec2>& board = paint.layout.baseboard;
   wxDC& dc = paint.dc;
-  const wxFont font = PlanFont(kEdgeLabelPoints, wxFONTWEIGHT_BOLD);
+  const wxFont font = PlanFont(paint.view, kEdgeLabelPoints, wxFONTWEIGHT_BOLD);
   const TextBounds bounds(dc, font);
   dc.SetFont(font);
   dc.SetTextForeground(kEdgeLabelText);
   dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
   dc.SetBrush(wxBrush(kPlateFill));
-  dc.SetPen(wxPen(kPlateEdge, 1));
+  dc.SetPen(wxPen(kPlateEdge, paint.view.pixels(1)));
   const Vec2 mean = MeanVertex(board);
   for (std::size_t i = 0; i < board.size(); ++i) {
     const std::optional<Edge> edge = PolygonEdge(board, i, mean, kShortestLabelledEdgeMm);
@@ -98,7 +100,9 @@ void DrawBaseboardEdgeLabels(ContentsPaint& paint) {
     const wxPoint anchor =
         ToPoint(paint.view.toDevice({edge->middle.x + kEdgeLabelDistanceMm * edge->outward.x,
                                      edge->middle.y + kEdgeLabelDistanceMm * edge->outward.y}));
-    if (paint.area.missesCentredBox(anchor, bounds.ofLength(edge->length), kPlatePadX)) continue;
+    if (paint.area.missesCentredBox(anchor, bounds.ofLength(edge->length),
+                                    paint.view.pixels(kPlatePadX)))
+      continue;
     DrawTextOnPlate(paint, FormatLength(edge->length, paint.layout.units), anchor, kPlatePadX,
                     kPlatePadY);
   }
@@ -128,9 +132,11 @@ void DrawDecks(ContentsPaint& paint) {
 
 void DrawGrid(ContentsPaint& paint) {
   const double pitch = paint.layout.gridSize * paint.view.scale;
-  if (!paint.layout.gridVisible || !(pitch >= kFinestPitch && pitch <= kCoarsestPitch)) return;
+  const double pixel = paint.view.pixel;
+  if (!paint.layout.gridVisible) return;
+  if (!(pitch >= kFinestPitch * pixel && pitch <= kCoarsestPitch * pixel)) return;
   const auto [width, height] = paint.size;
-  paint.dc.SetPen(wxPen(kGridColour, 1));
+  paint.dc.SetPen(wxPen(kGridColour, paint.view.pixels(1)));
   const GridLines columns = LinesAcross(paint.view.offsetX, pitch, width);
   for (int i = 0; i < columns.count; ++i)
     paint.dc.DrawLine(columns.at(i), 0, columns.at(i), height);

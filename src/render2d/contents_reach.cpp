@@ -19,8 +19,8 @@ constexpr double kCurvedArchPart = 0.25;
 // Between the ends of a curved turnout that has too few connectors to tell.
 constexpr double kCurvedTurnoutShiftMm = 77.5;
 constexpr double kArcSampleDegrees = 5.0;
-// What has a smallest size on the device, such as a dot or the bar of a track end, and rounding.
-constexpr double kDeviceExtra = 7.0;
+// What has a smallest size in pixels, such as a dot or the bar of a track end, and rounding.
+constexpr int kPixelExtra = 7;
 
 // Gathers the box of a piece's centre lines.
 class CentreLines {
@@ -168,16 +168,17 @@ bool PieceOutOfView(const ContentsPaint& paint, const Pose& pose, const PieceRea
   // Its points are no numbers, and such are drawn at 0.
   if (!std::isfinite(pose.heading)) return false;
   const double scale = std::abs(paint.view.scale);
+  const int pixelExtra = paint.view.pixels(kPixelExtra);
   const Vec2 origin = paint.onDevice({pose.x, pose.y});
   const double around =
-      scale * reach.fromOrigin + kDeviceExtra + std::max(number.GetWidth(), number.GetHeight());
+      scale * reach.fromOrigin + pixelExtra + std::max(number.GetWidth(), number.GetHeight());
   if (paint.area.missesCircle(origin.x, origin.y, around)) return true;
   if (paint.area.containsCircle(origin.x, origin.y, around)) return false;
   // Near the border the turned box decides.
   const double r = Radians(pose.heading);
   const double c = std::abs(std::cos(r));
   const double s = std::abs(std::sin(r));
-  const double extra = scale * reach.clearance + kDeviceExtra;
+  const double extra = scale * reach.clearance + pixelExtra;
   const double halfX =
       scale * (c * reach.halfLength + s * reach.halfWidth) + extra + number.GetWidth() / 2.0;
   const double halfY =

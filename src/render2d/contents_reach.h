@@ -31,7 +31,7 @@ bool PieceOutOfView(const ContentsPaint& paint, const Pose& pose, const PieceRea
 struct SceneryReach {
   double across = 0.0;       // mm, along the item's local x, to either side
   double along = 0.0;        // mm, along its local y
-  double strokeWidth = 0.0;  // device units
+  double strokeWidth = 0.0;  // pixels
   double textBytes = 0.0;    // the longest text's
   double textHeight = 0.0;   // mm, the highest text's
 };

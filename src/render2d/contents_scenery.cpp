@@ -15,7 +15,7 @@ namespace {
 constexpr int kSamplePoints = 20;
 constexpr double kSmallestTextPoints = 8.0;
 // For what is rounded, and for the dotted frame of a selected item.
-constexpr double kExtra = 8.0;  // device units
+constexpr int kExtra = 8;  // pixels
 
 std::unordered_set<std::int32_t> PortalIds(const Layout& layout) {
   std::unordered_set<std::int32_t> ids;
@@ -31,26 +31,27 @@ class SceneryView {
  public:
   explicit SceneryView(ContentsPaint& paint)
       : paint_(paint),
-        widthPerPoint_(
-            TextBounds(paint.dc, PlanFont(kSamplePoints, wxFONTWEIGHT_BOLD)).perCharacter() /
-            static_cast<double>(kSamplePoints)) {}
+        widthPerPoint_(TextBounds(paint.dc, PlanFont(paint.view, kSamplePoints, wxFONTWEIGHT_BOLD))
+                           .perCharacter() /
+                       static_cast<double>(kSamplePoints)) {}
 
   bool outOfView(const SceneryItem& item, const SceneryDef& def) const {
     if (!std::isfinite(item.heading)) return false;
     const SceneryReach& reach = ReachOfScenery(def);
-    const double points = std::max(kSmallestTextPoints, reach.textHeight * paint_.view.scale);
+    const double points =
+        std::max(kSmallestTextPoints, reach.textHeight * paint_.view.pixelScale());
     // Texts don't grow with the item's own factors. A character of several bytes may be wider than
     // a plain one, but not by more than its number of bytes.
     const double text =
         reach.textBytes > 0.0 ? (reach.textBytes + 1.0) * points * widthPerPoint_ : 0.0;
-    return paint_.outOfView({item.x, item.y},
-                            std::hypot(reach.across * item.scalex, reach.along * item.scaley),
-                            reach.strokeWidth + text + kExtra);
+    return paint_.outOfView(
+        {item.x, item.y}, std::hypot(reach.across * item.scalex, reach.along * item.scaley),
+        reach.strokeWidth * paint_.view.pixel + text + paint_.view.pixels(kExtra));
   }
 
  private:
   ContentsPaint& paint_;
-  double widthPerPoint_;  // device units
+  double widthPerPoint_;  // device units, per point that the text has on a screen
 };
 
 }  // namespace

@@ -25,7 +25,7 @@ constexpr int kSmallestLengthPoints = 8;
 constexpr int kLargestLengthPoints = 12;
 const wxColour kLengthText(30, 30, 30);
 constexpr double kShortestMeasuredEdgeMm = 1.0;
-constexpr double kLengthDistance = 12.0;  // device units
+constexpr double kLengthDistance = 12.0;  // pixels
 
 // The shapes to draw, those of the lowest level first, and in the plan's order on equal heights.
 std::vector<const Shape*> ShapesBottomUp(const ContentsPaint& paint) {
@@ -49,8 +49,9 @@ std::vector<const Shape*> ShapesBottomUp(const ContentsPaint& paint) {
 // The two fonts of a shape and the bounds of their texts, made once for all shapes.
 struct ShapeFonts {
   explicit ShapeFonts(ContentsPaint& paint)
-      : name(PlanFont(kNamePoints, wxFONTWEIGHT_BOLD)),
-        length(PlanFont(PlanFontSize(paint.view.scale * kLengthPointsPerScale,
+      : name(PlanFont(paint.view, kNamePoints, wxFONTWEIGHT_BOLD)),
+        length(PlanFont(paint.view,
+                        PlanFontSize(paint.view.pixelScale() * kLengthPointsPerScale,
                                      kSmallestLengthPoints, kLargestLengthPoints),
                         wxFONTWEIGHT_NORMAL)),
         nameBounds(paint.dc, name),
@@ -64,14 +65,15 @@ struct ShapeFonts {
 
 void DrawBody(ContentsPaint& paint, const Shape& shape) {
   const std::vector<wxPoint> points = DevicePolygon(shape.vertices, paint.view);
-  if (paint.area.missesPoints(points, kSelectedEdgePenWidth)) return;
+  if (paint.area.missesPoints(points, paint.view.pixels(kSelectedEdgePenWidth))) return;
   paint.dc.SetBrush(wxBrush(wxColour(shape.r, shape.g, shape.b, shape.a)));
   if (shape.outline) {
     const wxColour edge = shape.sel ? kSelectedEdge
                                     : wxColour(static_cast<unsigned char>(shape.r / 2),
                                                static_cast<unsigned char>(shape.g / 2),
                                                static_cast<unsigned char>(shape.b / 2));
-    paint.dc.SetPen(wxPen(edge, shape.sel ? kSelectedEdgePenWidth : kEdgePenWidth));
+    paint.dc.SetPen(
+        wxPen(edge, paint.view.pixels(shape.sel ? kSelectedEdgePenWidth : kEdgePenWidth)));
   } else {
     paint.dc.SetPen(*wxTRANSPARENT_PEN);
   }
@@ -96,8 +98,8 @@ void DrawEdgeLengths(ContentsPaint& paint, const Shape& shape, Vec2 mean, const 
     wxPoint centre = ToPoint(paint.view.toDevice(edge->middle));
     // Across and down have opposite senses: a level edge has its length outside the polygon, an
     // upright one inside. That is how plans have always looked.
-    centre.x += DeviceInt(kLengthDistance * edge->inward.x);
-    centre.y -= DeviceInt(kLengthDistance * edge->inward.y);
+    centre.x += DeviceInt(kLengthDistance * paint.view.pixel * edge->inward.x);
+    centre.y -= DeviceInt(kLengthDistance * paint.view.pixel * edge->inward.y);
     if (paint.area.missesCentredBox(centre, fonts.lengthBounds.ofLength(edge->length), 0)) continue;
     if (!ready) {
       paint.dc.SetFont(fonts.length);

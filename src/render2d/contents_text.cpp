@@ -13,7 +13,7 @@
 namespace vantrel {
 namespace {
 
-constexpr double kPlateCorner = 3.0;  // device units
+constexpr double kPlateCorner = 3.0;  // pixels
 
 const MeasuredText& Measure(ContentsPaint& paint, std::string_view text) {
   return MeasureText(*paint.context.textExtents, paint.dc, text);
@@ -32,9 +32,11 @@ wxString DisplayText(std::string_view text) {
   return decoded;
 }
 
-wxFont PlanFont(int pointSize, int weight) {
-  return wxFont(
-      wxFontInfo(pointSize).Family(wxFONTFAMILY_DEFAULT).Style(wxFONTSTYLE_NORMAL).Weight(weight));
+wxFont PlanFont(const ViewTransform& view, int pointSize, int weight) {
+  return wxFont(wxFontInfo(view.fontPoints(pointSize))
+                    .Family(wxFONTFAMILY_DEFAULT)
+                    .Style(wxFONTSTYLE_NORMAL)
+                    .Weight(weight));
 }
 
 int PlanFontSize(double wanted, int smallest, int largest) {
@@ -50,9 +52,11 @@ void DrawTextOnPlate(ContentsPaint& paint, std::string_view text, wxPoint centre
                      int padY) {
   const MeasuredText& measured = Measure(paint, text);
   const wxPoint corner = TopLeft(measured, centre);
-  paint.dc.DrawRoundedRectangle(corner.x - padX, corner.y - padY,
-                                measured.size.GetWidth() + 2 * padX,
-                                measured.size.GetHeight() + 2 * padY, kPlateCorner);
+  const int besides = paint.view.pixels(padX);
+  const int above = paint.view.pixels(padY);
+  paint.dc.DrawRoundedRectangle(
+      corner.x - besides, corner.y - above, measured.size.GetWidth() + 2 * besides,
+      measured.size.GetHeight() + 2 * above, kPlateCorner * paint.view.pixel);
   paint.dc.DrawText(measured.text, corner);
 }
 

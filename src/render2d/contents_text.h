@@ -13,13 +13,15 @@ class wxDC;
 namespace vantrel {
 
 struct ContentsPaint;
+struct ViewTransform;
 
 // UTF-8 to the toolkit's string, for texts that are drawn without being measured. Bytes that are no
 // UTF-8 are shown as Latin-1, so that a text from a damaged file stays visible.
 wxString DisplayText(std::string_view text);
 
-// A font of the default family, upright, with no face name. `weight` is 400 or 700.
-wxFont PlanFont(int pointSize, int weight);
+// A font of the default family, upright, with no face name, that looks on the view's device as
+// `pointSize` points do on a screen. `weight` is 400 or 700.
+wxFont PlanFont(const ViewTransform& view, int pointSize, int weight);
 
 // `wanted` truncated, within [smallest, largest]. The default upper limit only keeps the toolkit
 // alive at absurd scales: a page at 1:1 and 4800 dots per inch stays below it.
@@ -30,7 +32,7 @@ int PlanFontSize(double wanted, int smallest, int largest = kLargestFontPoints);
 void DrawCentredText(ContentsPaint& paint, std::string_view text, wxPoint centre);
 
 // The same on a rounded plate in the device's present brush and pen, which reaches `padX` and
-// `padY` device units beyond the text's box.
+// `padY` pixels beyond the text's box.
 void DrawTextOnPlate(ContentsPaint& paint, std::string_view text, wxPoint centre, int padX,
                      int padY);
 

@@ -34,7 +34,7 @@ class TrackView {
  public:
   explicit TrackView(ContentsPaint& paint)
       : paint_(paint),
-        partNumbers_(paint.layout.labelsVisible && paint.view.scale >= kPartNumberScale) {
+        partNumbers_(paint.layout.labelsVisible && paint.view.pixelScale() >= kPartNumberScale) {
     // In the font that the pieces will take, so that a part number is measured once in a paint.
     if (partNumbers_) UsePartNumberFont();
   }
@@ -70,8 +70,8 @@ class TrackView {
 void TrackView::UsePartNumberFont() {
   wxFont font = paint_.dc.GetFont();
   if (!font.IsOk()) font = *wxNORMAL_FONT;
-  font.SetPointSize(
-      PlanFontSize(paint_.view.scale * kPartNumberPointsPerScale, kSmallestPartNumberPoints));
+  font.SetPointSize(paint_.view.fontPoints(PlanFontSize(
+      paint_.view.pixelScale() * kPartNumberPointsPerScale, kSmallestPartNumberPoints)));
   font.SetWeight(wxFONTWEIGHT_BOLD);
   paint_.dc.SetFont(font);
 }

@@ -104,7 +104,7 @@ std::string rulerLabel(std::int32_t units, double value) {
 
 void drawRulers(wxDC& dc, const ViewTransform& view, std::int32_t units, DeviceSize client) {
   DrawBands(dc, client);
-  dc.SetFont(PlanFont(kLabelPoints, wxFONTWEIGHT_NORMAL));
+  dc.SetFont(PlanFont(view, kLabelPoints, wxFONTWEIGHT_NORMAL));
   dc.SetTextForeground(kLabelColour);
   // Labels of the plan may have left a solid background behind.
   dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);

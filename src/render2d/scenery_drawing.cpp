@@ -64,7 +64,7 @@ class ItemFrame {
     return {local(-halfWidth_, -halfDepth_), local(halfWidth_, -halfDepth_),
             local(halfWidth_, halfDepth_), local(-halfWidth_, halfDepth_)};
   }
-  double viewScale() const { return view_.scale; }
+  const ViewTransform& view() const { return view_; }
 
  private:
   // Of a point around the middle of the footprint.
@@ -86,7 +86,7 @@ class ItemFrame {
 
 struct PenKey {
   Rgba colour;
-  int width = 0;  // device units
+  int width = 0;  // pixels
   bool visible = false;
 
   friend bool operator==(const PenKey&, const PenKey&) = default;
@@ -132,7 +132,8 @@ class ItemPainter {
       longest = std::max({longest, std::abs(side.x), std::abs(side.y)});
     }
     dc_.SetPen(*wxThePenList->FindOrCreatePen(
-        ToColour(colour), 1, longest > kLongestDottedSide ? wxPENSTYLE_SOLID : wxPENSTYLE_DOT));
+        ToColour(colour), frame_.view().pixels(1),
+        longest > kLongestDottedSide ? wxPENSTYLE_SOLID : wxPENSTYLE_DOT));
     penKnown_ = false;
     dc_.DrawPolygon(static_cast<int>(corners.size()), corners.data());
   }
@@ -158,7 +159,8 @@ class ItemPainter {
     if (penKnown_ && pen_ == key) return;
     pen_ = key;
     penKnown_ = true;
-    dc_.SetPen(key.visible ? *wxThePenList->FindOrCreatePen(ToColour(key.colour), key.width)
+    dc_.SetPen(key.visible ? *wxThePenList->FindOrCreatePen(ToColour(key.colour),
+                                                            frame_.view().pixels(key.width))
                            : *wxTRANSPARENT_PEN);
   }
 
@@ -185,7 +187,7 @@ class ItemPainter {
 
   void takeEllipse(const ScenePrimitive& primitive) {
     const int count =
-        std::clamp(DeviceInt(std::max(primitive.w, primitive.h) * frame_.viewScale() * 0.5),
+        std::clamp(DeviceInt(std::max(primitive.w, primitive.h) * frame_.view().scale * 0.5),
                    kFewestEllipsePoints, kMostEllipsePoints);
     const double halfW = primitive.w / 2.0;
     const double halfH = primitive.h / 2.0;
@@ -204,9 +206,10 @@ class ItemPainter {
   }
 
   void drawText(const ScenePrimitive& primitive, Rgba colour) {
-    const int points = std::clamp(DeviceInt(primitive.h * frame_.viewScale()), kSmallestFontPoints,
-                                  kLargestFontPoints);
-    dc_.SetFont(*wxTheFontList->FindOrCreateFont(points, wxFONTFAMILY_DEFAULT, wxFONTSTYLE_NORMAL,
+    const int points = std::clamp(DeviceInt(primitive.h * frame_.view().pixelScale()),
+                                  kSmallestFontPoints, kLargestFontPoints);
+    dc_.SetFont(*wxTheFontList->FindOrCreateFont(frame_.view().fontPoints(points),
+                                                 wxFONTFAMILY_DEFAULT, wxFONTSTYLE_NORMAL,
                                                  wxFONTWEIGHT_BOLD));
     dc_.SetTextForeground(ToColour(colour));
     dc_.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);

@@ -16,13 +16,13 @@
 namespace vantrel {
 namespace {
 
-constexpr double kSmallestDetailScale = 0.2;  // device units per mm: below, no numbers and no dots
+constexpr double kSmallestDetailScale = 0.2;  // pixels per mm: below, no numbers and no dots
 constexpr double kLabelPoints = 9.0;          // at scale 1
 constexpr int kSmallestLabelPoints = 6;
 // Only keeps the toolkit alive at absurd scales: finer pages than 5,000 dots per inch don't exist.
 constexpr int kLargestLabelPoints = 2000;
 constexpr int kBold = 700;
-constexpr int kSmallestDotRadius = 3;  // device units
+constexpr int kSmallestDotRadius = 3;  // pixels
 constexpr int kDotRimLightness = 70;   // per cent of the dot's own colour
 
 // The middle of the piece's centre line, in its own frame.
@@ -48,10 +48,11 @@ void UseLabelFont(wxDC& dc, int points) {
 }
 
 void DrawPartNumber(const RenderContext& context, const TrackPaint& paint) {
-  if (!(paint.view.scale >= kSmallestDetailScale)) return;
+  if (!(paint.view.pixelScale() >= kSmallestDetailScale)) return;
   wxDC& dc = paint.dc;
-  UseLabelFont(dc, std::clamp(DeviceInt(kLabelPoints * paint.view.scale), kSmallestLabelPoints,
-                              kLargestLabelPoints));
+  const int points = std::clamp(DeviceInt(kLabelPoints * paint.view.pixelScale()),
+                                kSmallestLabelPoints, kLargestLabelPoints);
+  UseLabelFont(dc, paint.view.fontPoints(points));
   dc.SetTextForeground(ToColour(paint.selected ? kSelectedOutline : kLabelText));
   dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
   TextExtents own;
@@ -91,8 +92,8 @@ int scaledLength(const ViewTransform& view, double mm) {
 
 void drawDots(wxDC& dc, const BedFrame& frame, const Piece* piece, const PieceDef& def,
               const ViewTransform& view) {
-  if (!(view.scale >= kSmallestDetailScale)) return;
-  const int radius = std::max(kSmallestDotRadius, DeviceInt(view.scale * 5.0 * 0.5));
+  if (!(view.pixelScale() >= kSmallestDetailScale)) return;
+  const int radius = std::max(view.pixels(kSmallestDotRadius), DeviceInt(view.scale * 5.0 * 0.5));
   bool first = true;
   bool before = false;
   for (std::size_t i = 0; i < def.connectors.size(); ++i) {
@@ -100,7 +101,7 @@ void drawDots(wxDC& dc, const BedFrame& frame, const Piece* piece, const PieceDe
     if (first || joined != before) {
       const wxColour colour = ToColour(joined ? kJoinedDot : kFreeDot);
       setSolidBrush(dc, colour);
-      setSolidPen(dc, colour.ChangeLightness(kDotRimLightness), 1);
+      setSolidPen(dc, colour.ChangeLightness(kDotRimLightness), view.pixels(1));
     }
     first = false;
     before = joined;

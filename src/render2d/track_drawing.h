@@ -42,12 +42,12 @@ std::vector<wxPoint> StraightBedPolygon(const Pose& pose, const PieceDef& def,
 std::vector<wxPoint> ArcBedPolygon(const Pose& pose, const PieceDef& def, const ViewTransform& view,
                                    int route);
 
-// One closed polygon; nothing for fewer than 3 points.
+// One closed polygon; nothing for fewer than 3 points. The pen's width is in device units.
 void FillBedPolygon(wxDC& dc, const std::vector<wxPoint>& points, const wxColour& fill,
                     const wxColour& outline, int penWidth);
 
 // A bar across the track: a rectangle 2 * halfLength along `heading` and 2 * halfWidth across it,
-// centred `offset` mm ahead of `position`.
+// centred `offset` mm ahead of `position`. Its pen is `penWidth` pixels wide, at least 1.
 void DrawTrackMarker(wxDC& dc, const ViewTransform& view, Vec2 position, double heading,
                      double offset, double halfLength, double halfWidth, int penWidth);
 

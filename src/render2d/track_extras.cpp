@@ -29,7 +29,7 @@ void DrawArch(const TrackPaint& paint, int alpha, const wxRect& box, double star
               double endAngle) {
   // A box without area would leave cairo in an error state, and nothing after it would be drawn.
   if (box.width <= 0 || box.height <= 0) return;
-  const int width = std::max(1, scaledLength(paint.view, kArchPenMm));
+  const int width = std::max(paint.view.pixels(1), scaledLength(paint.view, kArchPenMm));
   setSolidPen(paint.dc, ToColour(kBridgeArch, alpha), width);
   paint.dc.SetBrush(*wxTRANSPARENT_BRUSH);
   paint.dc.DrawEllipticArc(box.x, box.y, box.width, box.height, DeviceInt(startAngle),
@@ -68,9 +68,9 @@ void DrawCurvedArch(const TrackPaint& paint) {
 // Upright on the device, not turned with the piece.
 void DrawContactMark(const TrackPaint& paint) {
   const wxPoint middle = ArcMiddle(paint);
-  const int halfWidth = std::max(3, scaledLength(paint.view, 8.0));
-  const int halfHeight = std::max(2, scaledLength(paint.view, 4.0));
-  setSolidPen(paint.dc, ToColour(kMarkerPen), 1);
+  const int halfWidth = std::max(paint.view.pixels(3), scaledLength(paint.view, 8.0));
+  const int halfHeight = std::max(paint.view.pixels(2), scaledLength(paint.view, 4.0));
+  setSolidPen(paint.dc, ToColour(kMarkerPen), paint.view.pixels(1));
   setSolidBrush(paint.dc, ToColour(kMarkerBrush));
   paint.dc.DrawRectangle(middle.x - halfWidth, middle.y - halfHeight, 2 * halfWidth,
                          2 * halfHeight);
@@ -85,7 +85,8 @@ void DrawBumper(const TrackPaint& paint) {
   const Vec2 end = paint.frame.ahead(paint.def.length);
   const wxPoint right = DevicePointOf(paint.view, paint.frame.beside(end, kBumperHalfMm));
   const wxPoint left = DevicePointOf(paint.view, paint.frame.beside(end, -kBumperHalfMm));
-  setSolidPen(paint.dc, ToColour(kBumperBar), std::max(4, scaledLength(paint.view, kBumperPenMm)));
+  setSolidPen(paint.dc, ToColour(kBumperBar),
+              std::max(paint.view.pixels(4), scaledLength(paint.view, kBumperPenMm)));
   paint.dc.DrawLine(right.x, right.y, left.x, left.y);
 }
 
@@ -108,16 +109,17 @@ void drawTurntable(const TrackPaint& paint) {
   const wxPoint centre = DevicePointOf(paint.view, paint.frame.at);
   const double deckRadius = paint.def.length / 2.0;
   setSolidBrush(dc, ToColour(kTurntableDeck, paint.isGhost() ? kGhostDeckAlpha : kOpaque));
-  setSolidPen(dc, ToColour(paint.colours.outline), 1);
+  setSolidPen(dc, ToColour(paint.colours.outline), paint.view.pixels(1));
   dc.DrawCircle(centre, scaledLength(paint.view, deckRadius));
   setSolidBrush(dc, ToColour(paint.colours.fill));
   dc.DrawCircle(centre, scaledLength(paint.view, paint.def.radius));
-  setSolidPen(dc, ToColour(paint.selected ? kSelectedOutline : kTurntableBridge), 3);
+  setSolidPen(dc, ToColour(paint.selected ? kSelectedOutline : kTurntableBridge),
+              paint.view.pixels(3));
   dc.DrawLine(DevicePointOf(paint.view, paint.frame.ahead(paint.def.radius)),
               DevicePointOf(paint.view, paint.frame.ahead(-paint.def.radius)));
   if (paint.isGhost()) return;
 
-  setSolidPen(dc, ToColour(kTurntableSpoke), 2);
+  setSolidPen(dc, ToColour(kTurntableSpoke), paint.view.pixels(2));
   const std::vector<Connector>& ends = paint.def.connectors;
   for (std::size_t i = 0; i < ends.size() && i < paint.piece->joints.size(); ++i) {
     if (paint.piece->joints[i].target < 0) continue;
@@ -127,7 +129,7 @@ void drawTurntable(const TrackPaint& paint) {
     dc.DrawLine(DevicePointOf(paint.view, rim),
                 DevicePointOf(paint.view, paint.frame.toWorld({ends[i].x, ends[i].y})));
   }
-  const int stubRadius = std::max(2, scaledLength(paint.view, 3.0));
+  const int stubRadius = std::max(paint.view.pixels(2), scaledLength(paint.view, 3.0));
   setSolidBrush(dc, ToColour(kTurntableStub));
   dc.SetPen(*wxTRANSPARENT_PEN);
   for (const Connector& end : ends)
@@ -143,7 +145,7 @@ void DrawTrackMarker(wxDC& dc, const ViewTransform& view, Vec2 position, double 
                              DevicePointOf(view, frame.beside(back, -halfWidth)),
                              DevicePointOf(view, frame.beside(front, -halfWidth)),
                              DevicePointOf(view, frame.beside(front, halfWidth))};
-  setSolidPen(dc, ToColour(kMarkerPen), std::max(1, penWidth));
+  setSolidPen(dc, ToColour(kMarkerPen), view.pixels(std::max(1, penWidth)));
   setSolidBrush(dc, ToColour(kMarkerBrush));
   dc.DrawPolygon(4, corners);
 }

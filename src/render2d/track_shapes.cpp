@@ -11,7 +11,7 @@
 namespace vantrel {
 namespace {
 
-constexpr int kOutlineWidth = 1;               // device units at any scale
+constexpr int kOutlineWidth = 1;               // pixels at any scale
 constexpr double kDefaultCurveShiftMm = 77.5;  // of a curved turnout without a third connector
 constexpr double kDivergingGhostMm = 5.0;   // a curved turnout's ends lie further aside than this
 constexpr double kStraightThroughMm = 1.0;  // a slip's first route ends nearer the axis than this
@@ -28,7 +28,7 @@ void FillStraight(const TrackPaint& paint, const BedFrame& frame, const BedMeasu
   BedPoints& points = ScratchBuffer(0);
   makeStraightBed(points, frame, measures, paint.view);
   FillBedPolygon(paint.dc, points, ToColour(colour), ToColour(paint.colours.outline),
-                 kOutlineWidth);
+                 paint.view.pixels(kOutlineWidth));
 }
 
 void FillArc(const TrackPaint& paint, const BedFrame& frame, const BedMeasures& measures,
@@ -36,7 +36,7 @@ void FillArc(const TrackPaint& paint, const BedFrame& frame, const BedMeasures& 
   BedPoints& points = ScratchBuffer(0);
   makeArcBed(points, frame, measures, paint.view);
   FillBedPolygon(paint.dc, points, ToColour(colour), ToColour(paint.colours.outline),
-                 kOutlineWidth);
+                 paint.view.pixels(kOutlineWidth));
 }
 
 void DrawStraightBed(const TrackPaint& paint, Rgb colour) {
@@ -138,7 +138,7 @@ void DrawSlipArcs(const TrackPaint& paint) {
   arc.sweep = -arc.sweep;
   makeArcBed(b, CrossingFrame(paint), arc, paint.view);
   FillBedPolygon(paint.dc, b, slip, slip, 0);
-  setSolidPen(paint.dc, ToColour(paint.colours.outline), kOutlineWidth);
+  setSolidPen(paint.dc, ToColour(paint.colours.outline), paint.view.pixels(kOutlineWidth));
   StrokeLens(paint.dc, a, b);
 }
 

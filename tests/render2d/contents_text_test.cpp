@@ -6,6 +6,7 @@
 
 #include "doc/format_length.h"
 #include "doc/layout.h"
+#include "doc/view_transform.h"
 
 namespace vantrel {
 namespace {
@@ -15,7 +16,7 @@ TEST(ContentsText, BoundsAreNoSmallerThanTheTextInTheFontsOfThisMachine) {
   wxMemoryDC dc(bitmap);
   for (const int points : {6, 11, 45})
     for (const int weight : {400, 700}) {
-      const wxFont font = PlanFont(points, weight);
+      const wxFont font = PlanFont(ViewTransform{}, points, weight);
       const TextBounds bounds(dc, font);
       for (const char* text : {"W", "iiii", "WWWWWWWW", "%%%%%%%%", "@@@@@@@@", "mmmmmmmm", "24188",
                                "A rather long label", "\t\t\t\t", "Böblingen — Gleis 14",
