@@ -4,7 +4,8 @@
 build_packages=(g++ cmake ninja-build libwxgtk3.2-dev libgtest-dev libgl1-mesa-dri)
 # Only the tests of what is installed use them, and do without where they are missing.
 test_packages=(desktop-file-utils appstream libxml2-utils)
-display_packages=(xvfb xauth x11-utils openbox xdotool imagemagick fonts-dejavu-core)
+display_packages=(xvfb xauth x11-utils openbox xdotool imagemagick fonts-dejavu-core
+  poppler-utils)
 
 # need_packages PACKAGE...: installs what is missing, and does nothing when nothing is.
 need_packages() {

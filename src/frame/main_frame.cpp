@@ -63,8 +63,9 @@ MainFrame::MainFrame(const ProgramFolders& folders)
 }
 
 MainFrame::~MainFrame() {
-  // The 3D window looks at the document, and the panels hold this frame as their workspace: they go
+  // The preview and the 3D window look at the document, and the panels hold this frame as their workspace: they go
   // while it still is one.
+  delete preview_.get();
   delete view3D_;
   if (root_) root_->Destroy();
 }
@@ -182,6 +183,8 @@ wxBEGIN_EVENT_TABLE(MainFrame, wxFrame)
   EVT_MENU(kCmdImport, MainFrame::onImport)
   EVT_MENU(kCmdExport, MainFrame::onExport)
   EVT_MENU(kCmdPageSetup, MainFrame::onPageSetup)
+  EVT_MENU(kCmdPrintPreview, MainFrame::onPrintPreview)
+  EVT_MENU(kCmdPrint, MainFrame::onPrint)
   EVT_MENU(kCmdSaveBlock, MainFrame::onSaveBlock)
   EVT_MENU(kCmdExit, MainFrame::onExit)
   EVT_MENU(kCmdUndo, MainFrame::onUndo)

@@ -4,11 +4,13 @@
 
 #include <wx/cmndata.h>
 #include <wx/frame.h>
+#include <wx/weakref.h>
 
 #include <string>
 
 #include "app/services/program_folders.h"
 #include "doc/layout.h"
+#include "print/pages/print_options.h"
 #include "workspace/workspace.h"
 
 namespace vantrel {
@@ -49,6 +51,7 @@ class MainFrame : public wxFrame, public Workspace {
   bool dirty() const { return dirty_; }
   const wxPrintData& printData() const { return printData_; }
   const wxPageSetupDialogData& pageSetupData() const { return pageSetupData_; }
+  const PrintOptions& printOptions() const { return printOptions_; }
 
   // The layout's name as the title shows it: layoutName or the file's name, or an empty text.
   std::string shownName() const;
@@ -90,6 +93,8 @@ class MainFrame : public wxFrame, public Workspace {
   void armBaseboardTool();
   void showHistoryState();
   void rebuildView3D();
+  bool agreesToSheets(wxWindow* parent);
+  void notePrinted(wxWindow* parent, bool done, const wxPrintData& data);
 
   void onNew(wxCommandEvent& event);
   void onOpen(wxCommandEvent& event);
@@ -98,6 +103,8 @@ class MainFrame : public wxFrame, public Workspace {
   void onImport(wxCommandEvent& event);
   void onExport(wxCommandEvent& event);
   void onPageSetup(wxCommandEvent& event);
+  void onPrintPreview(wxCommandEvent& event);
+  void onPrint(wxCommandEvent& event);
   void onSaveBlock(wxCommandEvent& event);
   void onExit(wxCommandEvent& event);
   void onUndo(wxCommandEvent& event);
@@ -140,6 +147,8 @@ class MainFrame : public wxFrame, public Workspace {
   bool experienceDue_ = false;
   wxPrintData printData_;
   wxPageSetupDialogData pageSetupData_;
+  PrintOptions printOptions_;
+  wxWeakRef<wxFrame> preview_;  // the open print preview
 
   wxDECLARE_EVENT_TABLE();
 };

@@ -1,0 +1,120 @@
+// Print and Print Preview.
+#include <wx/paper.h>
+#include <wx/print.h>
+#include <wx/utils.h>
+
+#include <string>
+
+#include "canvas/canvas_panel.h"
+#include "dialogs/message_boxes.h"
+#include "dialogs/print_options_dialog.h"
+#include "frame/main_frame.h"
+#include "print/layout_preview.h"
+#include "print/layout_printout.h"
+#include "print/pages/pagination.h"
+
+namespace vantrel {
+namespace {
+
+constexpr const char* kPrintTitle = "Print";
+constexpr const char* kPreviewTitle = "Print Preview";
+constexpr const char* kPreviewFrameTitle = "Print Preview -- Vantrel";
+const wxSize kPreviewSize(900, 700);
+
+// More sheets than this are printed only when the user has heard of them, and more than that not at
+// all: there is a piece far away, or the scale is a slip.
+constexpr int kManySheets = 100;
+constexpr int kTooManySheets = 10'000;
+
+constexpr int kEstimateDpi = 300;
+constexpr double kMmPerInch = 25.4;
+
+// In tenths of a millimetre, as it will lie in the printer.
+wxSize PaperSize(const wxPrintData& data) {
+  const wxPrintPaperType* paper = wxThePrintPaperDatabase->FindPaperType(data.GetPaperId());
+  wxSize size = paper != nullptr ? paper->GetSize() : data.GetPaperSize() * 10;
+  if (size.x < 1 || size.y < 1) size = wxSize(2100, 2970);
+  return data.GetOrientation() == wxLANDSCAPE ? wxSize(size.y, size.x) : size;
+}
+
+int SheetsNeeded(const Layout& layout, const PrintOptions& options, const wxPrintData& data) {
+  const wxSize paper = PaperSize(data);
+  const auto dots = [](int tenths) { return DeviceInt(tenths / 10.0 / kMmPerInch * kEstimateDpi); };
+  return paginate(boundsOfPrint(layout, options), options, {dots(paper.x), dots(paper.y)},
+                  kEstimateDpi)
+      .pageCount();
+}
+
+}  // namespace
+
+// Before the printer's own dialog: that one can't be told how many sheets there will be.
+bool MainFrame::agreesToSheets(wxWindow* parent) {
+  const int sheets = SheetsNeeded(layout_, printOptions_, printData_);
+  if (sheets > kTooManySheets) {
+    Warn(parent, kPrintTitle,
+         "At this scale the layout takes more than 10,000 sheets of paper.\n\nChoose a smaller "
+         "scale, or look for something that lies far away from the rest.");
+    return false;
+  }
+  return sheets <= kManySheets ||
+         AskCautiously(parent, kPrintTitle,
+                       "At this scale the layout takes about " + std::to_string(sheets) +
+                           " sheets of paper.\n\nPrint it?");
+}
+
+// A cancelled print changes nothing and needs no words.
+void MainFrame::notePrinted(wxWindow* parent, bool done, const wxPrintData& data) {
+  // Between two pages the canvas may have painted the levels as they are printed.
+  canvas_->Refresh();
+  if (done) {
+    printData_ = data;
+  } else if (wxPrinter::GetLastError() == wxPRINTER_ERROR) {
+    ReportError(parent, kPrintTitle,
+                "There was a problem printing. Check that a printer is installed and connected.");
+  }
+}
+
+void MainFrame::onPrint(wxCommandEvent&) {
+  canvas_->endGestures();
+  {
+    PrintOptionsDialog dialog(this, printOptions_);
+    if (dialog.ShowModal() != wxID_OK) return;
+    printOptions_ = dialog.options();
+  }
+  if (!agreesToSheets(this)) return;
+  wxPrintDialogData data(printData_);
+  wxPrinter printer(&data);
+  bool done = false;
+  {
+    LayoutPrintout printout(layout_, printOptions_);
+    // Pages are drawn in an event loop of their own: nobody may edit or close the plan beneath it.
+    const wxWindowDisabler noEvents;
+    done = printer.Print(this, &printout, true);
+  }
+  notePrinted(this, done, printer.GetPrintDialogData().GetPrintData());
+}
+
+// The preview keeps every other window of the program disabled while it is open, and leaves the
+// levels as they are after each page that it has drawn.
+void MainFrame::onPrintPreview(wxCommandEvent&) {
+  canvas_->endGestures();
+  auto* preview = new LayoutPreview(
+      layout_, printOptions_, printData_,
+      {.mayPrint = [this] { return agreesToSheets(preview_); },
+       .printed = [this](bool done,
+                         const wxPrintData& data) { notePrinted(preview_, done, data); }});
+  if (!preview->IsOk()) {
+    delete preview;
+    ReportError(this, kPreviewTitle,
+                "Could not create print preview. Is a printer driver installed?");
+    return;
+  }
+  auto* window =
+      new wxPreviewFrame(preview, this, kPreviewFrameTitle, wxDefaultPosition, kPreviewSize);
+  preview_ = window;
+  window->Centre(wxBOTH);
+  window->Initialize();
+  window->Show();
+}
+
+}  // namespace vantrel

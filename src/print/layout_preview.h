@@ -1,0 +1,34 @@
+// The preview of a print, and printing from it.
+#pragma once
+
+#include <wx/print.h>
+
+#include <functional>
+
+#include "doc/layout.h"
+#include "print/pages/print_options.h"
+
+namespace vantrel {
+
+// The preview's "Print" button asks `mayPrint` first and reports to `printed`: whether it went
+// well, and the printer data that the user chose.
+struct PreviewPrinting {
+  std::function<bool()> mayPrint;
+  std::function<void(bool done, const wxPrintData& data)> printed;
+};
+
+class LayoutPreview : public wxPrintPreview {
+ public:
+  LayoutPreview(Layout& layout, const PrintOptions& options, const wxPrintData& data,
+                PreviewPrinting printing);
+
+  bool Print(bool interactive) override;
+
+ private:
+  LayoutPreview(Layout& layout, const PrintOptions& options, wxPrintDialogData&& data,
+                PreviewPrinting&& printing);
+
+  PreviewPrinting printing_;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,217 @@
+// Print and Print Preview, with printers that do as the test wants.
+#include <gtest/gtest.h>
+
+#include <wx/print.h>
+#include <wx/radiobox.h>
+#include <wx/spinctrl.h>
+
+#include <functional>
+
+#include "print/layout_printout.h"
+#include "tests/frame/frame_fixture.h"
+
+namespace vantrel {
+namespace {
+
+// How the printer behaves, and what it was asked.
+struct PrinterScript {
+  wxPrinterError outcome = wxPRINTER_NO_ERROR;
+  std::function<void(wxPrintout&)> run;
+  bool previewOk = true;
+  int prints = 0;
+  bool prompted = false;
+  wxString title;
+  wxPaperSize givenPaper = wxPAPER_NONE;
+};
+
+class FakePrinter : public wxPrinterBase {
+ public:
+  FakePrinter(wxPrintDialogData* data, PrinterScript& script)
+      : wxPrinterBase(data), script_(script) {}
+  bool Setup(wxWindow*) override { return true; }
+  wxDC* PrintDialog(wxWindow*) override { return nullptr; }
+  bool Print(wxWindow*, wxPrintout* printout, bool prompt) override {
+    ++script_.prints;
+    script_.prompted = prompt;
+    script_.title = printout->GetTitle();
+    script_.givenPaper = m_printDialogData.GetPrintData().GetPaperId();
+    if (script_.run) script_.run(*printout);
+    m_printDialogData.GetPrintData().SetPaperId(wxPAPER_A4);
+    sm_lastError = script_.outcome;
+    return script_.outcome == wxPRINTER_NO_ERROR;
+  }
+
+ private:
+  PrinterScript& script_;
+};
+
+class FakeFactory : public wxNativePrintFactory {
+ public:
+  explicit FakeFactory(PrinterScript& script) : script_(script) {}
+  wxPrinterBase* CreatePrinter(wxPrintDialogData* data) override {
+    return new FakePrinter(data, script_);
+  }
+  wxPrintPreviewBase* CreatePrintPreview(wxPrintout* shown, wxPrintout* printed,
+                                         wxPrintDialogData* data) override {
+    wxPrintPreviewBase* preview = wxNativePrintFactory::CreatePrintPreview(shown, printed, data);
+    if (!script_.previewOk) preview->SetOk(false);
+    return preview;
+  }
+
+ private:
+  PrinterScript& script_;
+};
+
+constexpr const char* kProblem =
+    "There was a problem printing. Check that a printer is installed and connected.";
+
+class Printing : public FrameTest {
+ protected:
+  Printing() { wxPrintFactory::SetPrintFactory(new FakeFactory(printer_)); }
+  ~Printing() override { wxPrintFactory::SetPrintFactory(nullptr); }
+
+  wxWindow* previewWindow() { return wxWindow::FindWindowByLabel("Print Preview -- Vantrel"); }
+  void addHiddenLevel() {
+    Level level;
+    level.id = 7;
+    level.visible = false;
+    plan().levels.push_back(level);
+  }
+
+  PrinterScript printer_;
+};
+
+TEST_F(Printing, ShowsThePrintDialogWithTheStoredDataAndTakesThePrintersOnSuccess) {
+  EXPECT_EQ(frame().printData().GetPaperId(), wxPAPER_LETTER);
+  ModalScript script;
+  script.dialog("Print Options", wxID_OK);
+  command(5010);
+  EXPECT_EQ(printer_.prints, 1);
+  EXPECT_TRUE(printer_.prompted);
+  EXPECT_EQ(printer_.title, "Vantrel Layout");
+  EXPECT_EQ(printer_.givenPaper, wxPAPER_LETTER);
+  EXPECT_EQ(frame().printData().GetPaperId(), wxPAPER_A4);
+  EXPECT_FALSE(frame().dirty());
+}
+
+TEST_F(Printing, CancelledOptionsPrintNothing) {
+  ModalScript script;
+  script.dialog("Print Options", wxID_CANCEL);
+  command(5010);
+  EXPECT_EQ(printer_.prints, 0);
+  EXPECT_EQ(frame().printOptions(), PrintOptions{});
+}
+
+TEST_F(Printing, AProblemOfThePrinterIsToldAndItsDataAreNotTaken) {
+  printer_.outcome = wxPRINTER_ERROR;
+  ModalScript script;
+  script.dialog("Print Options", wxID_OK).box("Print", kProblem, kErrorBox, wxID_OK);
+  command(5010);
+  EXPECT_EQ(frame().printData().GetPaperId(), wxPAPER_LETTER);
+}
+
+TEST_F(Printing, ACancelInThePrintDialogNeedsNoWords) {
+  printer_.outcome = wxPRINTER_CANCELLED;
+  ModalScript script;
+  script.dialog("Print Options", wxID_OK);
+  command(5010);
+  EXPECT_EQ(frame().printData().GetPaperId(), wxPAPER_LETTER);
+}
+
+TEST_F(Printing, ThatBreaksOffLeavesTheLevelsAsTheyWere) {
+  addHiddenLevel();
+  const std::vector<Level> before = plan().levels;
+  printer_.outcome = wxPRINTER_CANCELLED;
+  printer_.run = [this, &before](wxPrintout& printout) {
+    printout.SetPageSizePixels(3300, 2550);
+    printout.OnPreparePrinting();
+    EXPECT_NE(plan().levels, before);
+  };
+  plan().activeLevel = 7;
+  ModalScript script;
+  script.dialog("Print Options", wxID_OK);
+  command(5010);
+  EXPECT_EQ(plan().levels, before);
+}
+
+TEST_F(Printing, NobodyCanEditOrCloseThePlanMeanwhile) {
+  showFrame();
+  printer_.run = [this](wxPrintout&) { EXPECT_FALSE(frame().IsEnabled()); };
+  ModalScript script;
+  script.dialog("Print Options", wxID_OK);
+  command(5010);
+  EXPECT_EQ(printer_.prints, 1);
+  EXPECT_TRUE(frame().IsEnabled());
+}
+
+// Chooses 1:1 in the dialog.
+void ChooseFullSize(wxDialog& dialog) {
+  wxRadioBox* scaling = FindControl<wxRadioBox>(dialog);
+  scaling->SetSelection(1);
+  FindControl<wxSpinCtrl>(dialog)->SetValue(1);
+  wxCommandEvent ok(wxEVT_BUTTON, wxID_OK);
+  dialog.ProcessWindowEvent(ok);
+}
+
+TEST_F(Printing, ManySheetsAreAskedAbout) {
+  // At 1:1 a letter page in landscape shows 257 by 199 mm: 10 m by 4 m are 39 by 21 sheets, 819.
+  plan().baseboard = {{0, 0}, {10000, 0}, {10000, 4000}, {0, 4000}};
+  ModalScript script;
+  script.shown("Print Options", ChooseFullSize)
+      .box("Print", "At this scale the layout takes about 819 sheets of paper.\n\nPrint it?",
+           kCautiousBox, wxID_NO);
+  command(5010);
+  EXPECT_EQ(printer_.prints, 0);
+}
+
+TEST_F(Printing, AnAbsurdNumberOfSheetsIsRefused) {
+  plan().baseboard = {{0, 0}, {1e9, 0}, {1e9, 1e9}};
+  ModalScript script;
+  script.shown("Print Options", ChooseFullSize)
+      .box("Print",
+           "At this scale the layout takes more than 10,000 sheets of paper.\n\nChoose a smaller "
+           "scale, or look for something that lies far away from the rest.",
+           wxOK | wxICON_WARNING, wxID_OK);
+  command(5010);
+  EXPECT_EQ(printer_.prints, 0);
+}
+
+TEST_F(Printing, APreviewThatIsNotValidIsTold) {
+  printer_.previewOk = false;
+  ModalScript script;
+  script.box("Print Preview", "Could not create print preview. Is a printer driver installed?",
+             kErrorBox, wxID_OK);
+  command(5013);
+  EXPECT_EQ(previewWindow(), nullptr);
+}
+
+TEST_F(Printing, APreviewOpensWithoutADialogAndKeepsTheFrameFromEditing) {
+  showFrame();
+  command(5013);
+  wxWindow* window = previewWindow();
+  ASSERT_NE(window, nullptr);
+  EXPECT_EQ(window->GetSize(), wxSize(900, 700));
+  EXPECT_FALSE(frame().IsEnabled());
+  window->Close();
+  wxTheApp->Yield();
+  wxTheApp->ProcessIdle();
+  EXPECT_TRUE(frame().IsEnabled());
+  EXPECT_FALSE(frame().dirty());
+}
+
+TEST_F(Printing, TheFrameMayEndBeneathAnOpenPreview) {
+  addHiddenLevel();
+  showFrame();
+  command(5013);
+  for (int i = 0; i < 20; ++i) {
+    wxTheApp->Yield();
+    wxMilliSleep(5);
+  }
+  EXPECT_FALSE(plan().levels.back().visible);
+  delete frame_;
+  frame_ = nullptr;
+  EXPECT_EQ(previewWindow(), nullptr);
+}
+
+}  // namespace
+}  // namespace vantrel

@@ -1,0 +1,99 @@
+// Real pages: printed to a file by the toolkit, turned into pictures, measured.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "print/layout_printout.h"
+#include "tests/print/pdf_pages.h"
+#include "tests/support/temp_folder.h"
+
+namespace vantrel {
+namespace {
+
+constexpr int kPictureDpi = 300;
+constexpr double kMmPerDot = 25.4 / kPictureDpi;
+constexpr double kTolerance = 0.3;  // mm
+
+// First and last red dot of the row in the middle of the run.
+struct Stretch {
+  int first = -1;
+  int last = -1;
+
+  double mm() const { return (last - first + 1) * kMmPerDot; }
+};
+
+Stretch RedStretch(const wxImage& page, int y) {
+  Stretch stretch;
+  for (int x = 0; x < page.GetWidth(); ++x) {
+    if (page.GetRed(x, y) < 150 || page.GetGreen(x, y) > 90 || page.GetBlue(x, y) > 90) continue;
+    if (stretch.first < 0) stretch.first = x;
+    stretch.last = x;
+  }
+  return stretch;
+}
+
+// A straight red run at 1:10 on a board that is `width` mm wide.
+class PrintedPages : public testing::Test {
+ protected:
+  PrintedPages() {
+    options_.mode = kActualScale;
+    options_.scaleN = 10;
+  }
+
+  void lay(double width, double from, double to) {
+    Shape run;
+    run.id = 5;
+    run.r = 200;
+    run.g = 0;
+    run.b = 0;
+    run.a = 255;
+    run.outline = false;
+    run.vertices = {{from, 0}, {to, 0}, {to, 700}, {from, 700}};
+    plan_.shapes = {run};
+    plan_.baseboard = {{0, 0}, {width, 0}, {width, 700}, {0, 700}};
+    options_.includeBaseboard = true;
+  }
+
+  std::vector<wxImage> print() {
+    LayoutPrintout printout(plan_, options_);
+    const std::string file = temp_.at("plan.pdf");
+    EXPECT_TRUE(PrintToPdf(printout, file));
+    return PagesOfPdf(file, temp_.at(""), kPictureDpi);
+  }
+
+  Layout plan_;
+  PrintOptions options_;
+  TempFolder temp_;
+};
+
+TEST_F(PrintedPages, AMetreIsTenCentimetresLongAtOneToTen) {
+  lay(1300, 100, 1100);
+  const std::vector<wxImage> pages = print();
+  ASSERT_EQ(pages.size(), 1U);
+  EXPECT_NEAR(pages[0].GetWidth() * kMmPerDot, 210.0, 0.2);  // the paper's own width
+  // Clear of the texts along the edges.
+  const Stretch run = RedStretch(pages[0], pages[0].GetHeight() * 48 / 100);
+  RecordProperty("mm", std::to_string(run.mm()));
+  EXPECT_NEAR(run.mm(), 100.0, kTolerance);
+}
+
+TEST_F(PrintedPages, AMetreAcrossTheSeamOfTwoSheetsIsTenCentimetresTogether) {
+  // 92 percent of the paper's 210 mm are 193.2: the seam lies at 1,932 mm, within the run.
+  lay(2500, 1500, 2500);
+  const std::vector<wxImage> pages = print();
+  ASSERT_EQ(pages.size(), 2U);
+  const int y = pages[0].GetHeight() / 8;
+  const Stretch left = RedStretch(pages[0], y);
+  const Stretch right = RedStretch(pages[1], y);
+  RecordProperty("mm", std::to_string(left.mm() + right.mm()));
+  // No gap and no overlap: what one sheet ends with, the next one begins with.
+  EXPECT_NEAR(left.mm() + right.mm(), 100.0, kTolerance);
+  // The left sheet ends at its margin, 4 percent from the right edge; the right one begins at its
+  // own, 4 percent from the left edge: 8.4 mm.
+  EXPECT_NEAR((pages[0].GetWidth() - 1 - left.last) * kMmPerDot, 8.4, 0.15);
+  EXPECT_NEAR(right.first * kMmPerDot, 8.4, 0.15);
+}
+
+}  // namespace
+}  // namespace vantrel
