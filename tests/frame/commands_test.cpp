@@ -4,7 +4,6 @@
 #include <wx/menu.h>
 #include <wx/toolbar.h>
 
-#include <set>
 #include <string>
 #include <vector>
 

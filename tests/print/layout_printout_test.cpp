@@ -384,10 +384,8 @@ TEST_F(PrintedLayout, APreviewLeavesThePlanAsItWasAfterEachPage) {
   auto preview = std::make_unique<LayoutPreview>(plan_, options_, data, PreviewPrinting{});
   ASSERT_TRUE(preview->IsOk());
   wxFrame frame(nullptr, wxID_ANY, "preview");
-  frame.CreateStatusBar();
   wxPreviewCanvas canvas(preview.get(), &frame);
   preview->SetCanvas(&canvas);
-  preview->SetFrame(&frame);
   for (const int page : {1, 3, 4, 2}) {
     preview->SetCurrentPage(page);
     EXPECT_TRUE(preview->RenderPage(page));
@@ -395,7 +393,6 @@ TEST_F(PrintedLayout, APreviewLeavesThePlanAsItWasAfterEachPage) {
   }
   EXPECT_EQ(preview->GetMaxPage(), 4);
   preview->SetCanvas(nullptr);
-  preview->SetFrame(nullptr);
 }
 
 TEST(GreyOf, IsTheLightnessWithTheColoursOwnOpacity) {
