@@ -1,4 +1,5 @@
 #include "canvas/autofill_dialog.h"
+#include "app/services/wx_text.h"
 
 #include <wx/button.h>
 #include <wx/listbox.h>
@@ -43,9 +44,9 @@ AutofillDialog::AutofillDialog(wxWindow* parent, double gapMm, const std::vector
                wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER) {
   auto* column = new wxBoxSizer(wxVERTICAL);
   const std::string gap = "Gap: " + FormatFixed(gapMm, 1) + " mm. Select fill:";
-  column->Add(new wxStaticText(this, wxID_ANY, wxString::FromUTF8(gap)), 0, wxALL, kBorder);
+  column->Add(new wxStaticText(this, wxID_ANY, ToWx(gap)), 0, wxALL, kBorder);
   wxArrayString texts;
-  for (const std::string& row : rows) texts.Add(wxString::FromUTF8(row));
+  for (const std::string& row : rows) texts.Add(ToWx(row));
   // A row of many pieces may be wider than the window: the list scrolls to its end.
   list_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, texts,
                         wxLB_SINGLE | wxLB_HSCROLL | wxLB_NEEDED_SB);

@@ -1,4 +1,5 @@
 #include "canvas/canvas_panel.h"
+#include "app/services/wx_text.h"
 
 #include <wx/accel.h>
 #include <wx/cursor.h>
@@ -313,14 +314,12 @@ std::string CanvasPanel::status(StatusField field) const {
 }
 
 void CanvasPanel::inform(const std::string& title, const std::string& text, BoxIcon icon) {
-  wxMessageBox(wxString::FromUTF8(text), wxString::FromUTF8(title), wxOK | IconStyle(icon),
-               wxGetTopLevelParent(this));
+  wxMessageBox(ToWx(text), ToWx(title), wxOK | IconStyle(icon), wxGetTopLevelParent(this));
 }
 
 bool CanvasPanel::ask(const std::string& title, const std::string& text, bool defaultYes) {
   const long style = wxYES_NO | wxICON_QUESTION | (defaultYes ? wxYES_DEFAULT : wxNO_DEFAULT);
-  return wxMessageBox(wxString::FromUTF8(text), wxString::FromUTF8(title), style,
-                      wxGetTopLevelParent(this)) == wxYES;
+  return wxMessageBox(ToWx(text), ToWx(title), style, wxGetTopLevelParent(this)) == wxYES;
 }
 
 int CanvasPanel::chooseAutofill(double gapMm, const std::vector<std::string>& rows) {
@@ -333,7 +332,7 @@ int CanvasPanel::popUpMenu(std::span<const MenuEntry> entries, DevicePoint at) {
   int taken = 0;
   // Appended with these numbers, the toolkit would show shortcuts of its own that don't exist here.
   for (const MenuEntry& entry : entries) {
-    menu.Append(wxID_ANY, wxString::FromUTF8(entry.label))->SetId(entry.id);
+    menu.Append(wxID_ANY, ToWx(entry.label))->SetId(entry.id);
   }
   menu.Bind(wxEVT_MENU, [&taken](wxCommandEvent& event) { taken = event.GetId(); });
   PopupMenu(&menu, at.x, at.y);

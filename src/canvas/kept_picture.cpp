@@ -3,20 +3,13 @@
 #include <wx/dcmemory.h>
 
 #include "canvas/event_order.h"
+#include "doc/undo.h"
 
 namespace vantrel {
 
 KeptPicture::Shown KeptPicture::ShownBy(const CanvasContext& context, double density) {
   const Layout& plan = context.layout;
-  return {.records = {.pieces = plan.pieces,
-                      .scenery = plan.scenery,
-                      .labels = plan.labels,
-                      .measurements = plan.measurements,
-                      .shapes = plan.shapes,
-                      .tunnels = plan.tunnels,
-                      .helices = plan.helices,
-                      .gradeRuns = plan.gradeRuns,
-                      .currentGrade = plan.currentGrade},
+  return {.records = TakeSnapshot(plan),
           .levels = plan.levels,
           .baseboard = plan.baseboard,
           .baseboardVisible = plan.baseboardVisible,

@@ -1,4 +1,5 @@
 #include "canvas/resize_scenery_dialog.h"
+#include "app/services/wx_text.h"
 
 #include <wx/button.h>
 #include <wx/checkbox.h>
@@ -40,7 +41,7 @@ ResizeSceneryDialog::ResizeSceneryDialog(wxWindow* parent, SceneryFootprint size
   const std::string sizes = "Catalog size: " + Whole(size.width) + " x " + Whole(size.depth) +
                             " mm    Current: " + Whole(size.width * scale.x) + " x " +
                             Whole(size.depth * scale.y) + " mm";
-  column->Add(new wxStaticText(this, wxID_ANY, wxString::FromUTF8(sizes)), 0, wxALL, kMargin);
+  column->Add(new wxStaticText(this, wxID_ANY, ToWx(sizes)), 0, wxALL, kMargin);
   width_ = addRow(*column, "Width scale:", scale.x, size.width * scale.x);
   depth_ = addRow(*column, "Depth scale:", scale.y, size.depth * scale.y);
   shown_ = {.x = width_->GetValue(), .y = depth_->GetValue()};
@@ -77,8 +78,8 @@ wxSpinCtrlDouble* ResizeSceneryDialog::addRow(wxSizer& column, const wxString& c
   spin->SetMinSize(wxSize(std::max(kSpinWidth, spin->GetBestSize().GetWidth()), -1));
   row->Add(spin, 0, wxLEFT | wxALIGN_CENTRE_VERTICAL, kMargin);
   const std::string size = "(= " + Whole(sizeMm) + " mm)";
-  row->Add(new wxStaticText(this, wxID_ANY, wxString::FromUTF8(size)), 0,
-           wxLEFT | wxALIGN_CENTRE_VERTICAL, kMargin);
+  row->Add(new wxStaticText(this, wxID_ANY, ToWx(size)), 0, wxLEFT | wxALIGN_CENTRE_VERTICAL,
+           kMargin);
   column.Add(row, 0, wxLEFT | wxRIGHT | wxTOP, kMargin);
   return spin;
 }

@@ -1,4 +1,5 @@
 #include "canvas/shape_properties_dialog.h"
+#include "app/services/wx_text.h"
 
 #include <wx/checkbox.h>
 #include <wx/clrpicker.h>
@@ -57,8 +58,8 @@ ShapePropertiesDialog::ShapePropertiesDialog(wxWindow* parent, const ShapeProper
 void ShapePropertiesDialog::addNameRow(wxSizer& column) {
   auto* const row = new wxBoxSizer(wxHORIZONTAL);
   row->Add(new wxStaticText(this, wxID_ANY, "Name:"), 0, wxALIGN_CENTRE_VERTICAL);
-  name_ = new wxTextCtrl(this, wxID_ANY, wxString::FromUTF8(start_.label), wxDefaultPosition,
-                         wxSize(kNameWidth, -1));
+  name_ =
+      new wxTextCtrl(this, wxID_ANY, ToWx(start_.label), wxDefaultPosition, wxSize(kNameWidth, -1));
   row->Add(name_, 1, wxLEFT, kMargin);
   column.Add(row, 0, wxLEFT | wxRIGHT | wxTOP | wxEXPAND, kMargin);
 }
@@ -95,7 +96,7 @@ void ShapePropertiesDialog::addHeightRow(wxSizer& column, std::int32_t units) {
 ShapeProperties ShapePropertiesDialog::properties() const {
   const wxColour colour = colour_->GetColour();
   const double height = height_->GetValue();
-  return {.label = name_->GetValue().utf8_string(),
+  return {.label = ToUtf8(name_->GetValue()),
           .r = colour.Red(),
           .g = colour.Green(),
           .b = colour.Blue(),

@@ -5,7 +5,7 @@
 #include <wx/listbox.h>
 #include <wx/textctrl.h>
 
-#include "dialogs/text.h"
+#include "app/services/wx_text.h"
 
 namespace vantrel {
 namespace {

@@ -13,8 +13,8 @@
 #include <optional>
 #include <string>
 
+#include "app/services/wx_text.h"
 #include "dialogs/message_boxes.h"
-#include "dialogs/text.h"
 
 namespace vantrel {
 namespace {

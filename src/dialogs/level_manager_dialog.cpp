@@ -11,11 +11,11 @@
 #include <string>
 
 #include "app/services/box_text.h"
+#include "app/services/wx_text.h"
 #include "canvas/operations/level_edits.h"
 #include "dialogs/dialog_layout.h"
 #include "dialogs/level_properties_dialog.h"
 #include "dialogs/message_boxes.h"
-#include "dialogs/text.h"
 #include "doc/format_length.h"
 
 namespace vantrel {

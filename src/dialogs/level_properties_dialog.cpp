@@ -12,8 +12,8 @@
 #include <cmath>
 #include <string>
 
+#include "app/services/wx_text.h"
 #include "dialogs/message_boxes.h"
-#include "dialogs/text.h"
 #include "doc/format_length.h"
 
 namespace vantrel {

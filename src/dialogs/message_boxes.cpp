@@ -3,7 +3,7 @@
 #include <wx/msgdlg.h>
 
 #include "app/services/box_text.h"
-#include "dialogs/text.h"
+#include "app/services/wx_text.h"
 
 namespace vantrel {
 namespace {

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <optional>
 
-#include "dialogs/text.h"
+#include "app/services/wx_text.h"
 #include "doc/typed_number.h"
 
 namespace vantrel {

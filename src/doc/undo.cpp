@@ -7,18 +7,6 @@
 namespace vantrel {
 namespace {
 
-UndoSnapshot TakeSnapshot(const Layout& layout) {
-  return {.pieces = layout.pieces,
-          .scenery = layout.scenery,
-          .labels = layout.labels,
-          .measurements = layout.measurements,
-          .shapes = layout.shapes,
-          .tunnels = layout.tunnels,
-          .helices = layout.helices,
-          .gradeRuns = layout.gradeRuns,
-          .currentGrade = layout.currentGrade};
-}
-
 // Exchanges the layout's state with the snapshot's, so that a step through history copies nothing.
 void SwapState(Layout& layout, UndoSnapshot& snapshot) {
   std::swap(layout.pieces, snapshot.pieces);
@@ -41,6 +29,18 @@ void Step(Layout& layout, std::deque<UndoSnapshot>& from, std::deque<UndoSnapsho
 }
 
 }  // namespace
+
+UndoSnapshot TakeSnapshot(const Layout& layout) {
+  return {.pieces = layout.pieces,
+          .scenery = layout.scenery,
+          .labels = layout.labels,
+          .measurements = layout.measurements,
+          .shapes = layout.shapes,
+          .tunnels = layout.tunnels,
+          .helices = layout.helices,
+          .gradeRuns = layout.gradeRuns,
+          .currentGrade = layout.currentGrade};
+}
 
 void PushUndo(Layout& layout) {
   layout.undoHistory.push_back(TakeSnapshot(layout));

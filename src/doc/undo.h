@@ -10,6 +10,9 @@ namespace vantrel {
 // Undo keeps at most this many states; the oldest is dropped.
 inline constexpr std::size_t kUndoLimit = 50;
 
+// A copy of what undo brings back.
+UndoSnapshot TakeSnapshot(const Layout& layout);
+
 // To be called immediately before a change. Empties the redo history.
 void PushUndo(Layout& layout);
 

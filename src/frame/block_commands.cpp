@@ -6,10 +6,10 @@
 #include <system_error>
 
 #include "app/services/utf8_path.h"
+#include "app/services/wx_text.h"
 #include "canvas/canvas_panel.h"
 #include "canvas/operations/selection.h"
 #include "dialogs/message_boxes.h"
-#include "dialogs/text.h"
 #include "doc/trimmed.h"
 #include "frame/main_frame.h"
 #include "frame/store_folder.h"

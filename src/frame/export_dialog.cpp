@@ -8,8 +8,8 @@
 
 #include <utility>
 
+#include "app/services/wx_text.h"
 #include "dialogs/dialog_layout.h"
-#include "dialogs/text.h"
 #include "frame/store_folder.h"
 
 namespace vantrel {

@@ -15,7 +15,7 @@
 #include "app/services/pictures.h"
 #include "app/services/prefs.h"
 #include "app/services/store_address.h"
-#include "dialogs/text.h"
+#include "app/services/wx_text.h"
 #include "frame/help_topics.h"
 
 namespace vantrel {

@@ -6,8 +6,8 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include "app/services/wx_text.h"
 #include "dialogs/dialog_layout.h"
-#include "dialogs/text.h"
 #include "frame/store_folder.h"
 
 namespace vantrel {

@@ -8,8 +8,8 @@
 
 #include "app/services/frame_log.h"
 #include "app/services/prefs.h"
+#include "app/services/wx_text.h"
 #include "canvas/canvas_panel.h"
-#include "dialogs/text.h"
 #include "frame/commands.h"
 #include "frame/experience_dialog.h"
 #include "frame/menus.h"

@@ -6,9 +6,9 @@
 
 #include <utility>
 
+#include "app/services/wx_text.h"
 #include "dialogs/dialog_layout.h"
 #include "dialogs/message_boxes.h"
-#include "dialogs/text.h"
 #include "frame/store_folder.h"
 
 namespace vantrel {

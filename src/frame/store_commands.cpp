@@ -4,11 +4,11 @@
 
 #include <algorithm>
 
+#include "app/services/wx_text.h"
 #include "canvas/canvas_panel.h"
 #include "canvas/operations/joining.h"
 #include "catalog/track_catalog.h"
 #include "dialogs/message_boxes.h"
-#include "dialogs/text.h"
 #include "doc/layout_ops.h"
 #include "doc/undo.h"
 #include "frame/commands.h"

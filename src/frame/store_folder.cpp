@@ -5,6 +5,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "app/services/program_folders.h"
 #include "app/services/utf8_path.h"
 
 namespace vantrel {
@@ -12,18 +13,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::vector<std::string> NamesWithExtension(const std::string& folder, std::string_view extension) {
-  std::vector<std::string> names;
-  std::error_code error;
-  fs::directory_iterator entry(Utf8Path(folder), error);
-  const fs::directory_iterator end;
-  while (!error && entry != end) {
-    const std::string name = PathUtf8(entry->path().filename());
-    std::error_code unreadable;
-    if (name.ends_with(extension) && !name.starts_with('.') && entry->is_regular_file(unreadable))
-      names.push_back(name);
-    entry.increment(error);
-  }
+std::vector<std::string> SortedNames(const std::string& folder, std::string_view extension) {
+  std::vector<std::string> names = FileNamesIn(folder, extension);
   std::ranges::sort(names);
   return names;
 }
@@ -31,8 +22,8 @@ std::vector<std::string> NamesWithExtension(const std::string& folder, std::stri
 }  // namespace
 
 std::vector<std::string> LayoutFileNames(const std::string& folder) {
-  std::vector<std::string> names = NamesWithExtension(folder, ".vtl");
-  const std::vector<std::string> older = NamesWithExtension(folder, ".xml");
+  std::vector<std::string> names = SortedNames(folder, ".vtl");
+  const std::vector<std::string> older = SortedNames(folder, ".xml");
   names.insert(names.end(), older.begin(), older.end());
   return names;
 }

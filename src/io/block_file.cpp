@@ -28,12 +28,7 @@ void AppendSelectedScenery(std::string& out, const Layout& layout) {
 
 // Height, slope, direction, colour and helix belong to the plan that the block was taken from.
 Piece ReadBlockPiece(AttributeLine& line) {
-  Piece piece;
-  piece.id = line.requiredInt("id");
-  piece.cat = line.text("cat");
-  piece.x = line.requiredReal("x");
-  piece.y = line.requiredReal("y");
-  piece.heading = line.requiredReal("heading");
+  Piece piece = ReadPlacedPiece(line);
   piece.level = line.optionalInt("level", 1);
   return piece;
 }

@@ -27,12 +27,7 @@ void ReadColor(AttributeLine& line, Piece& piece) {
 }
 
 Piece ReadPiece(AttributeLine& line) {
-  Piece piece;
-  piece.id = line.requiredInt("id");
-  piece.cat = line.text("cat");
-  piece.x = line.requiredReal("x");
-  piece.y = line.requiredReal("y");
-  piece.heading = line.requiredReal("heading");
+  Piece piece = ReadPlacedPiece(line);
   piece.sel = line.flag("sel");
   piece.z = line.optionalReal("z", 0.0);
   piece.grade = line.optionalReal("grade", 0.0);
@@ -99,6 +94,16 @@ void ReadPieces(LineCursor& lines, std::vector<Piece>& pieces, HighestId& highes
     }
     if (tags.has(Tag::kJoint) && pieces.size() > before) ReadJoint(attributes, pieces.back());
   }
+}
+
+Piece ReadPlacedPiece(AttributeLine& line) {
+  Piece piece;
+  piece.id = line.requiredInt("id");
+  piece.cat = line.text("cat");
+  piece.x = line.requiredReal("x");
+  piece.y = line.requiredReal("y");
+  piece.heading = line.requiredReal("heading");
+  return piece;
 }
 
 void ReadJoint(AttributeLine& line, Piece& piece) {

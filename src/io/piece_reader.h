@@ -25,6 +25,10 @@ struct HighestId {
 // "</block>" or "</layout>". Throws BadNumber, with the cursor on the line at fault.
 void ReadPieces(LineCursor& lines, std::vector<Piece>& pieces, HighestId& highest);
 
+// What a "<piece " line tells in layouts and blocks alike: the id, the part, where it lies. Throws
+// BadNumber.
+Piece ReadPlacedPiece(AttributeLine& line);
+
 // Sets the slot that a "<joint " line names, growing `joints` as needed. Throws BadNumber, also for
 // a connector that no piece can have.
 void ReadJoint(AttributeLine& line, Piece& piece);

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "app/services/program_folders.h"
 #include "app/services/utf8_path.h"
 #include "palette/palette_sections.h"
 
@@ -13,10 +14,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kBlockExtension = ".vtl";
-
-bool IsBlockName(const std::string& name) {
-  return name.ends_with(kBlockExtension) && !name.starts_with('.');
-}
 
 }  // namespace
 
@@ -31,16 +28,8 @@ std::string libraryFolderName(std::string_view entry) {
 
 std::vector<std::string> blockFiles(const std::string& folder) {
   std::vector<std::string> files;
-  std::error_code error;
-  fs::directory_iterator entry(Utf8Path(folder), error);
-  const fs::directory_iterator end;
-  while (!error && entry != end) {
-    const std::string name = PathUtf8(entry->path().filename());
-    std::error_code unreadable;
-    if (IsBlockName(name) && entry->is_regular_file(unreadable))
-      files.push_back(pathIn(folder, name));
-    entry.increment(error);
-  }
+  for (const std::string& name : FileNamesIn(folder, kBlockExtension))
+    files.push_back(pathIn(folder, name));
   return files;
 }
 

@@ -1,4 +1,5 @@
 #include "palette/grid_painting.h"
+#include "app/services/wx_text.h"
 
 #include <wx/brush.h>
 #include <wx/dc.h>
@@ -55,7 +56,7 @@ class GridPainter {
     dc_.SetPen(cellPen(look));
     dc_.DrawRectangle(left, top, kIconSize, kIconSize);
     if (row.icon.IsOk()) dc_.DrawBitmap(row.icon, left, top, false);
-    const wxString key = wxString::FromUTF8(row.key);
+    const wxString key = ToWx(row.key);
     dc_.SetFont(partFont_);
     const int width = dc_.GetTextExtent(key).GetWidth();
     text(key, partFont_, kRowText, left + (kIconSize - width) / 2, top + kPartTextDrop);

@@ -8,12 +8,12 @@
 #include <utility>
 
 #include "app/services/box_text.h"
+#include "app/services/wx_text.h"
 #include "canvas/operations/block_placing.h"
 #include "io/block_file.h"
 #include "palette/block_library.h"
 #include "palette/palette_panel.h"
 #include "palette/palette_sections.h"
-#include "palette/text.h"
 #include "workspace/status_text.h"
 
 namespace vantrel {
@@ -34,7 +34,7 @@ std::string PalettePanel::libraryFolder() const {
 void PalettePanel::RefreshLibrary() {
   library_->Clear();
   libraryPaths_ = blockFiles(libraryFolder());
-  for (const std::string& path : libraryPaths_) library_->Append(Text(blockTitle(path)));
+  for (const std::string& path : libraryPaths_) library_->Append(ToWx(blockTitle(path)));
 }
 
 std::string PalettePanel::libraryPath(int row) const {
@@ -49,7 +49,7 @@ void PalettePanel::placeSelectedBlock() {
   std::string name;
   const std::string problem = LoadBlockFile(path, name, block.pieces, block.scenery);
   if (!problem.empty()) {
-    wxMessageBox(BoxText(Text(problem)), "Load Block Failed", wxOK | wxICON_ERROR,
+    wxMessageBox(BoxText(ToWx(problem)), "Load Block Failed", wxOK | wxICON_ERROR,
                  wxGetTopLevelParent(this));
     return;
   }
@@ -87,13 +87,13 @@ int PalettePanel::chooseFrom(wxMenu& menu) {
 void PalettePanel::deleteBlock(const std::string& path) {
   wxWindow* const parent = wxGetTopLevelParent(this);
   const wxString question =
-      BoxText(Text("Delete library block \"" + blockTitle(path) + "\"?\n\nThis cannot be undone."));
+      BoxText(ToWx("Delete library block \"" + blockTitle(path) + "\"?\n\nThis cannot be undone."));
   if (wxMessageBox(question, "Delete Library Block", wxYES_NO | wxICON_WARNING, parent) != wxYES)
     return;
   if (removeBlockFile(path))
     RefreshLibrary();
   else
-    wxMessageBox(BoxText(Text("Could not delete:\n" + path)), "Delete Failed", wxOK | wxICON_ERROR,
+    wxMessageBox(BoxText(ToWx("Could not delete:\n" + path)), "Delete Failed", wxOK | wxICON_ERROR,
                  parent);
 }
 

@@ -10,12 +10,12 @@
 #include <string_view>
 #include <utility>
 
+#include "app/services/wx_text.h"
 #include "catalog/helix_kits.h"
 #include "catalog/scenery_catalog.h"
 #include "catalog/track_catalog.h"
 #include "palette/palette_sections.h"
 #include "palette/piece_preview_popup.h"
-#include "palette/text.h"
 
 namespace vantrel {
 namespace {
@@ -43,7 +43,7 @@ std::string_view KitOf(std::string_view helixKey) {
 void AddHelixRows(TrackIconGrid& grid) {
   grid.AddHeader("Helix");
   for (const HelixKit& kit : kits())
-    grid.AddTextRow(Text(kit.name), std::string(kHelixKeyPrefix) + std::string(kit.id));
+    grid.AddTextRow(ToWx(kit.name), std::string(kHelixKeyPrefix) + std::string(kit.id));
 }
 
 }  // namespace
@@ -56,7 +56,7 @@ PalettePanel::PalettePanel(wxWindow* parent, Workspace& workspace, std::string l
 
 void PalettePanel::build() {
   chooser_ = new wxChoice(this, kSystemChooserId);
-  for (const PaletteSystem& system : paletteSystems()) chooser_->Append(Text(system.entry));
+  for (const PaletteSystem& system : paletteSystems()) chooser_->Append(ToWx(system.entry));
   chooser_->SetSelection(0);
   chooser_->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { showSystem(); });
 
@@ -133,7 +133,7 @@ void PalettePanel::fillGrid() {
   const std::int32_t index = systemIndex();
   if (index < 0) return;
   for (const PaletteSection& section : paletteSystems()[static_cast<std::size_t>(index)].sections) {
-    grid_->AddHeader(Text(section.title));
+    grid_->AddHeader(ToWx(section.title));
     for (const std::string_view part : section.parts()) grid_->AddPart(part);
     if (index == kPaletteIndexC && section.title == kHelixFollowsSection) AddHelixRows(*grid_);
   }
@@ -143,7 +143,7 @@ void PalettePanel::fillList(KeyedList& list, const std::vector<SceneryListRow>& 
   list.box->Clear();
   list.keys.clear();
   for (const SceneryListRow& row : rows) {
-    list.box->Append(Text(row.text));
+    list.box->Append(ToWx(row.text));
     list.keys.push_back(row.key);
   }
 }
@@ -217,7 +217,7 @@ void PalettePanel::rowHovered(int row) {
   const PieceDef* def =
       row < 0 ? nullptr : findPart(grid_->rows()[static_cast<std::size_t>(row)].key);
   if (def != nullptr)
-    grid_->SetToolTip(Text(def->description));
+    grid_->SetToolTip(ToWx(def->description));
   else
     grid_->UnsetToolTip();
 }

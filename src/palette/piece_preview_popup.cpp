@@ -1,4 +1,5 @@
 #include "palette/piece_preview_popup.h"
+#include "app/services/wx_text.h"
 
 #include <wx/dcbuffer.h>
 #include <wx/font.h>
@@ -29,7 +30,7 @@ void paintPreview(const RenderContext& context, wxDC& dc, const PieceDef* def) {
   dc.DrawRectangle(0, 0, kPopupWidth, kPopupHeight);
   dc.SetFont(wxFont(wxFontInfo(kPartFontPoints).Bold()));
   dc.SetTextForeground(kPartText);
-  const wxString part = wxString::FromUTF8(def->partNumber);
+  const wxString part = ToWx(def->partNumber);
   const int width = dc.GetTextExtent(part).GetWidth();
   dc.DrawText(part, (kPopupWidth - width) / 2, kPartTextY);
   drawLoosePart(context, dc, *def, previewView(*def));

@@ -11,10 +11,10 @@
 
 #include <algorithm>
 
+#include "app/services/wx_text.h"
 #include "inspection/selection_edits.h"
 #include "properties/properties_panel.h"
 #include "properties/tally_panel.h"
-#include "properties/text.h"
 #include "properties/warning_colour.h"
 #include "properties/wrapped_label.h"
 
@@ -128,7 +128,7 @@ void PropertiesPanel::buildColourBox(wxSizer* column) {
   wxWindow* box = frame->GetStaticBox();
   wxSizer* row = AddFramed(column, frame, wxHORIZONTAL);
   colourChoice_ = new wxChoice(box, kColourChoiceId);
-  for (const PaintColour& colour : paintColours()) colourChoice_->Append(ShownText(colour.name));
+  for (const PaintColour& colour : paintColours()) colourChoice_->Append(ToWx(colour.name));
   colourChoice_->SetSelection(0);
   colourChoice_->SetMinSize(wxSize(kNarrowChoice, -1));
   row->Add(colourChoice_, 1, kMiddle | wxRIGHT, kGap);

@@ -14,11 +14,11 @@
 #include <string>
 #include <utility>
 
+#include "app/services/wx_text.h"
 #include "canvas/operations/grades.h"
 #include "inspection/page_texts.h"
 #include "inspection/selection_edits.h"
 #include "properties/tally_panel.h"
-#include "properties/text.h"
 #include "properties/warning_colour.h"
 #include "properties/wrapped_label.h"
 
@@ -27,7 +27,7 @@ namespace {
 
 // Setting a label anew, even to the same text, makes it flicker. True when it changed.
 bool SetTextOf(wxStaticText& control, std::string_view text) {
-  const wxString shown = ShownText(text);
+  const wxString shown = ToWx(text);
   if (control.GetLabelText() == shown) return false;
   control.SetLabelText(shown);
   return true;
@@ -101,8 +101,8 @@ void PropertiesPanel::showSelection(Typed typed) {
 
 void PropertiesPanel::show(SelectionPage page, Typed typed) {
   const bool keepTyped = typed == Typed::keep && page.showsTheSameAs(page_);
-  titleLabel_->setText(ShownText(page.title));
-  infoLabel_->setText(ShownText(page.info));
+  titleLabel_->setText(ToWx(page.title));
+  infoLabel_->setText(ToWx(page.info));
   showHeight(page.height, keepTyped && page.height == page_.height);
   showLevels(page.level);
   showGrade(page.grade, keepTyped && page.grade == page_.grade);
@@ -112,7 +112,7 @@ void PropertiesPanel::show(SelectionPage page, Typed typed) {
 
 void PropertiesPanel::showHeight(const HeightEntry& entry, bool keepTyped) {
   SetTextOf(*heightCaption_, entry.caption);
-  const wxString text = ShownText(entry.text);
+  const wxString text = ToWx(entry.text);
   if (heightField_->GetValue() != text && !(keepTyped && heightField_->HasFocus()))
     heightField_->ChangeValue(text);
   heightField_->Enable(entry.enabled);
@@ -122,8 +122,7 @@ void PropertiesPanel::showLevels(const LevelEntry& entry) {
   if (levelRows_ != entry.rows) {
     levelRows_ = entry.rows;
     levelChoice_->Clear();
-    for (const LevelRow& row : levelRows_)
-      levelChoice_->Append(ShownText(row.name), ClientData(row.id));
+    for (const LevelRow& row : levelRows_) levelChoice_->Append(ToWx(row.name), ClientData(row.id));
   }
   if (levelChoice_->GetSelection() != entry.chosen) levelChoice_->SetSelection(entry.chosen);
   levelChoice_->Enable(entry.enabled);
@@ -134,7 +133,7 @@ void PropertiesPanel::showGrade(const GradeEntry& entry, bool keepTyped) {
   SetColourOf(*gradeValue_, entry.warning.empty()
                                 ? wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT)
                                 : kWarningColour);
-  gradeWarning_->setText(ShownText(entry.warning));
+  gradeWarning_->setText(ToWx(entry.warning));
   const bool inUse = gradeUp_->HasFocus() || gradeDown_->HasFocus() || gradeSpin_->HasFocus();
   if (!(keepTyped && inUse)) {
     (entry.up ? gradeUp_ : gradeDown_)->SetValue(true);
@@ -176,7 +175,7 @@ void PropertiesPanel::bindEvents() {
     CallAfter([this] { heightField_->SelectAll(); });
   });
   heightField_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
-    keepHistoryKeys(*heightField_, ShownText(page_.height.text), event);
+    keepHistoryKeys(*heightField_, ToWx(page_.height.text), event);
   });
   labelField_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
     keepHistoryKeys(*labelField_, wxString(), event);
@@ -206,8 +205,7 @@ void PropertiesPanel::keepHistoryKeys(wxTextCtrl& field, const wxString& untouch
 }
 
 void PropertiesPanel::enterHeight() {
-  if (!EnterHeight(workspace_.layout(), page_.pieceId, heightField_->GetValue().utf8_string()))
-    return;
+  if (!EnterHeight(workspace_.layout(), page_.pieceId, ToUtf8(heightField_->GetValue()))) return;
   workspace_.markDirty();
   showSelection(Typed::replace);
   heightField_->SelectAll();  // ready for another number
@@ -236,7 +234,7 @@ void PropertiesPanel::applyColour() {
 
 void PropertiesPanel::addLabel() {
   const Vec2 at = hasPendingLabelPos_ ? pendingLabelPos_ : Vec2{};
-  if (!AddLabel(workspace_.layout(), labelField_->GetValue().utf8_string(), at)) return;
+  if (!AddLabel(workspace_.layout(), ToUtf8(labelField_->GetValue()), at)) return;
   labelField_->ChangeValue(wxString());
   hasPendingLabelPos_ = false;
   workspace_.markDirty();

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/services/wx_text.h"
 #include "catalog/track_catalog.h"
-#include "properties/text.h"
 
 namespace vantrel {
 namespace {
@@ -29,7 +29,7 @@ constexpr std::size_t kUsualLetters = 54;
 enum Column { kPieceColumn = 0, kCountColumn = 1 };
 
 wxString CellText(const std::string& text) {
-  const wxString shown = ShownText(text);
+  const wxString shown = ToWx(text);
   return shown.length() <= kLongestText ? shown : shown.Left(kLongestText) + "...";
 }
 
@@ -87,7 +87,7 @@ wxString TallyList::tipAt(wxPoint point) const {
 int TallyList::usualWidth() const {
   int widest = 0;
   for (std::int32_t i = 0; i < catalog().pieceCount(); ++i) {
-    const wxString text = ShownText(catalog().pieceAt(i)->description);
+    const wxString text = ToWx(catalog().pieceAt(i)->description);
     if (text.length() <= kUsualLetters) widest = std::max(widest, widthIn(sizes_.size() - 1, text));
   }
   return widest + kCellPadding + kCountWidth + 2 * kListBorder;

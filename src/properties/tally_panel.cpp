@@ -1,4 +1,5 @@
 #include "properties/tally_panel.h"
+#include "app/services/wx_text.h"
 
 #include <wx/button.h>
 #include <wx/msgdlg.h>
@@ -68,7 +69,7 @@ void TallyPanel::RefreshTally() {
 void TallyPanel::OnBuyTrack() {
   const Checkout checkout = PrepareCheckout(workspace_.layout(), kStoreAddress);
   for (const CartMessage& message : checkout.messages)
-    wxMessageBox(wxString::FromUTF8(message.text), wxString::FromUTF8(message.title),
+    wxMessageBox(ToWx(message.text), ToWx(message.title),
                  wxOK | (message.warning ? wxICON_WARNING : wxICON_INFORMATION),
                  wxGetTopLevelParent(this));
   if (!checkout.address.empty()) browser_(checkout.address);

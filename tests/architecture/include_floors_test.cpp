@@ -29,7 +29,7 @@ const std::map<std::string, int>& Floors() {
                                                     {"view3d/scene", 3},
                                                     {"print/pages", 3},
                                                     {"render2d", 3},
-                                                    {"app/services", 3},
+                                                    {"app/services", 2},
                                                     {"inspection", 4},
                                                     {"workspace", 4},
                                                     {"canvas/gestures", 5},

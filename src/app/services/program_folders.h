@@ -3,6 +3,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace vantrel {
 
@@ -23,5 +25,9 @@ std::string LogFolder(const std::string& wanted);
 
 // Downloads while that exists, otherwise the home folder.
 std::string ExchangeFolder(const ProgramFolders& folders);
+
+// The names, in the order of the folder, of its regular files that end with `extension`, hidden
+// ones left out. Empty for a folder that can't be read.
+std::vector<std::string> FileNamesIn(const std::string& folder, std::string_view extension);
 
 }  // namespace vantrel

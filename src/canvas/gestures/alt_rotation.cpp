@@ -1,4 +1,5 @@
 #include "canvas/gestures/alt_rotation.h"
+#include "app/services/wx_text.h"
 
 #include <wx/dc.h>
 #include <wx/font.h>
@@ -131,7 +132,7 @@ void drawAltRotate(const CanvasContext& context, wxDC& dc) {
   dc.SetPen(wxPen(gesture.flash ? wxColour(0, 160, 60) : wxColour(180, 120, 0), 2));
   dc.DrawCircle(at.x, at.y, gesture.flash ? 16 : 8);
 
-  const wxString text = wxString::FromUTF8(FormatFixed(gesture.shownAngle, 1) + " deg");
+  const wxString text = ToWx(FormatFixed(gesture.shownAngle, 1) + " deg");
   dc.SetFont(wxFont(wxFontInfo(kTagFontSize).Bold()));
   const wxSize size = dc.GetTextExtent(text);
   const int half = size.GetHeight() / 2;

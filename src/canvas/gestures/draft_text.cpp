@@ -1,4 +1,5 @@
 #include "canvas/gestures/draft_text.h"
+#include "app/services/wx_text.h"
 
 #include <wx/dc.h>
 #include <wx/font.h>
@@ -34,7 +35,7 @@ std::string draftLengthText(double lengthMm, std::int32_t units) {
 
 DeviceSize measureDraftTag(wxDC& dc, const std::string& text) {
   dc.SetFont(wxFont(wxFontInfo(kTagFontSize).Bold()));
-  const wxSize size = dc.GetTextExtent(wxString::FromUTF8(text));
+  const wxSize size = dc.GetTextExtent(ToWx(text));
   return {size.GetWidth(), size.GetHeight()};
 }
 
@@ -44,7 +45,7 @@ void drawDraftTag(wxDC& dc, const std::string& text, DeviceSize textSize, const 
   dc.DrawRoundedRectangle(tag.box.x, tag.box.y, textSize.width + tag.extraWidth,
                           textSize.height + kTagExtraHeight, kTagCorner);
   dc.SetTextForeground(tag.ink);
-  dc.DrawText(wxString::FromUTF8(text), tag.text.x, tag.text.y);
+  dc.DrawText(ToWx(text), tag.text.x, tag.text.y);
 }
 
 }  // namespace vantrel

@@ -4,12 +4,13 @@
 #include <wx/string.h>
 
 #include <string>
+#include <string_view>
 
 namespace vantrel {
 
-// Bytes that are not UTF-8, as an old file name may hold, are shown one letter per byte.
-inline wxString ToWx(const std::string& text) {
-  const wxString wide = wxString::FromUTF8(text);
+// Bytes that are not UTF-8, as an old file or file name may hold, are shown one letter per byte.
+inline wxString ToWx(std::string_view text) {
+  const wxString wide = wxString::FromUTF8(text.data(), text.size());
   return wide.empty() ? wxString::From8BitData(text.data(), text.size()) : wide;
 }
 
