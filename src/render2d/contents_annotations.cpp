@@ -6,6 +6,7 @@
 
 #include <cmath>
 
+#include "app/services/wx_text.h"
 #include "doc/format_length.h"
 #include "render2d/contents_text.h"
 #include "render2d/text_extent.h"
@@ -117,7 +118,7 @@ void DrawLabels(ContentsPaint& paint) {
     const wxPoint at = ToPoint(paint.view.toDevice({label.x, label.y}));
     if (LabelOutOfView(paint, label, at, bounds)) continue;
     dc.SetTextForeground(label.sel ? kSelected : kText);
-    dc.DrawText(DisplayText(label.text), at);
+    dc.DrawText(ToWx(label.text), at);
     if (label.sel) DrawLabelFrame(paint, label, at);
   }
 }

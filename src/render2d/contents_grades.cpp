@@ -7,6 +7,7 @@
 #include <cmath>
 #include <string>
 
+#include "app/services/wx_text.h"
 #include "catalog/connector_geometry.h"
 #include "catalog/piece_builders.h"
 #include "catalog/track_catalog.h"
@@ -72,7 +73,7 @@ void DrawSlope(ContentsPaint& paint, const Arrow& arrow, const wxColour& colour,
   const wxPoint tip = ToPoint(paint.view.toDevice(arrow.at(kArrowLengthMm, 0.0)));
   paint.dc.SetTextForeground(colour);
   paint.dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
-  paint.dc.DrawText(DisplayText(text), tip.x + paint.view.pixels(kSlopeTextRight),
+  paint.dc.DrawText(ToWx(text), tip.x + paint.view.pixels(kSlopeTextRight),
                     tip.y - paint.view.pixels(kSlopeTextUp));
 }
 

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <utility>
 
+#include "app/services/wx_text.h"
 #include "doc/view_transform.h"
 #include "render2d/contents_paint.h"
 #include "render2d/text_extent.h"
@@ -24,13 +25,6 @@ wxPoint TopLeft(const MeasuredText& measured, wxPoint centre) {
 }
 
 }  // namespace
-
-wxString DisplayText(std::string_view text) {
-  wxString decoded = wxString::FromUTF8(text.data(), text.size());
-  if (decoded.empty() && !text.empty())
-    decoded = wxString(text.data(), wxConvISO8859_1, text.size());
-  return decoded;
-}
 
 wxFont PlanFont(const ViewTransform& view, int pointSize, int weight) {
   return wxFont(wxFontInfo(view.fontPoints(pointSize))
@@ -75,7 +69,7 @@ wxSize TextBounds::of(std::string_view text) const {
     // The toolkit's own measure of several lines would take the device's font instead of this one.
     wxCoord width = 0;
     wxCoord height = 0;
-    dc_.GetTextExtent(DisplayText(text), &width, &height, nullptr, nullptr, &font_);
+    dc_.GetTextExtent(ToWx(text), &width, &height, nullptr, nullptr, &font_);
     const double lines = 1.0 + static_cast<double>(std::count(text.begin(), text.end(), '\n'));
     // Stacked accents may leave the measured box.
     return {width + perCharacter_, DeviceInt(lines * height) + perCharacter_};

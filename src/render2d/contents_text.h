@@ -15,10 +15,6 @@ namespace vantrel {
 struct ContentsPaint;
 struct ViewTransform;
 
-// UTF-8 to the toolkit's string, for texts that are drawn without being measured. Bytes that are no
-// UTF-8 are shown as Latin-1, so that a text from a damaged file stays visible.
-wxString DisplayText(std::string_view text);
-
 // A font of the default family, upright, with no face name, that looks on the view's device as
 // `pointSize` points do on a screen. `weight` is 400 or 700.
 wxFont PlanFont(const ViewTransform& view, int pointSize, int weight);

@@ -2,6 +2,8 @@
 
 #include <wx/dc.h>
 
+#include "app/services/wx_text.h"
+
 namespace vantrel {
 namespace {
 
@@ -48,8 +50,7 @@ const MeasuredText& MeasureText(TextExtents& extents, wxDC& dc, std::string_view
   if (const auto known = entry.texts.find(utf8); known != entry.texts.end()) return known->second;
   if (entry.texts.size() >= kMostTexts) entry.texts.clear();
   MeasuredText measured;
-  measured.text = wxString::FromUTF8(utf8.data(), utf8.size());
-  if (measured.text.empty()) measured.text = wxString::From8BitData(utf8.data(), utf8.size());
+  measured.text = ToWx(utf8);
   measured.size = dc.GetTextExtent(measured.text);
   return entry.texts.emplace(std::string(utf8), std::move(measured)).first->second;
 }

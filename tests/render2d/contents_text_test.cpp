@@ -4,6 +4,7 @@
 #include <wx/bitmap.h>
 #include <wx/dcmemory.h>
 
+#include "app/services/wx_text.h"
 #include "doc/format_length.h"
 #include "doc/layout.h"
 #include "doc/view_transform.h"
@@ -23,7 +24,7 @@ TEST(ContentsText, BoundsAreNoSmallerThanTheTextInTheFontsOfThisMachine) {
                                "北京西站", "﷽﷽", "\xE9\xE9", "a\nbb"}) {
         wxCoord width = 0;
         wxCoord height = 0;
-        dc.GetTextExtent(DisplayText(text), &width, &height, nullptr, nullptr, &font);
+        dc.GetTextExtent(ToWx(text), &width, &height, nullptr, nullptr, &font);
         EXPECT_GE(bounds.of(text).GetWidth(), width) << text << ' ' << points;
         EXPECT_GE(bounds.of(text).GetHeight(), height) << text << ' ' << points;
       }
@@ -31,8 +32,8 @@ TEST(ContentsText, BoundsAreNoSmallerThanTheTextInTheFontsOfThisMachine) {
         for (const std::int32_t units : {kMillimetres, kCentimetres, kInches}) {
           wxCoord width = 0;
           wxCoord height = 0;
-          dc.GetTextExtent(DisplayText(FormatLength(length, units)), &width, &height, nullptr,
-                           nullptr, &font);
+          dc.GetTextExtent(ToWx(FormatLength(length, units)), &width, &height, nullptr, nullptr,
+                           &font);
           EXPECT_GE(bounds.ofLength(length).GetWidth(), width) << length << ' ' << units;
         }
     }
