@@ -18,15 +18,20 @@ LayoutPreview::LayoutPreview(Layout& layout, const PrintOptions& options, wxPrin
                      &data),
       printing_(std::move(printing)) {}
 
-// Pages are drawn in an event loop of their own: nothing may be closed or edited beneath it.
+// With a printer of its own: the toolkit's preview would keep what the user chose in the printer's
+// dialog to itself. Pages are drawn in an event loop of their own: nothing may be closed or edited
+// beneath it.
 bool LayoutPreview::Print(bool interactive) {
   if (!printing_.mayPrint()) return false;
+  wxPrinter printer(&GetPrintDialogData());
   bool done = false;
   {
     const wxWindowDisabler noEvents;
-    done = wxPrintPreview::Print(interactive);
+    done = printer.Print(GetFrame(), GetPrintoutForPrinting(), interactive);
   }
-  printing_.printed(done, GetPrintDialogData().GetPrintData());
+  const wxPrintData& chosen = printer.GetPrintDialogData().GetPrintData();
+  if (done) GetPrintDialogData().SetPrintData(chosen);
+  printing_.printed(done, chosen);
   return done;
 }
 

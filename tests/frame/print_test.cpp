@@ -5,7 +5,9 @@
 #include <wx/radiobox.h>
 #include <wx/spinctrl.h>
 
+#include <chrono>
 #include <functional>
+#include <limits>
 
 #include "print/layout_printout.h"
 #include "tests/frame/frame_fixture.h"
@@ -70,6 +72,12 @@ class Printing : public FrameTest {
   Printing() { wxPrintFactory::SetPrintFactory(new FakeFactory(printer_)); }
   ~Printing() override { wxPrintFactory::SetPrintFactory(nullptr); }
 
+  // The preview's own print button.
+  void printFromPreview() {
+    auto* window = dynamic_cast<wxPreviewFrame*>(previewWindow());
+    ASSERT_NE(window, nullptr);
+    window->GetControlBar()->OnPrint();
+  }
   wxWindow* previewWindow() { return wxWindow::FindWindowByLabel("Print Preview -- Vantrel"); }
   void addHiddenLevel() {
     Level level;
@@ -197,6 +205,83 @@ TEST_F(Printing, APreviewOpensWithoutADialogAndKeepsTheFrameFromEditing) {
   wxTheApp->ProcessIdle();
   EXPECT_TRUE(frame().IsEnabled());
   EXPECT_FALSE(frame().dirty());
+}
+
+TEST_F(Printing, FromAPreviewTakesThePrintersDataOnSuccess) {
+  showFrame();
+  int pages = 0;
+  printer_.run = [&pages](wxPrintout& printout) {
+    wxWindow* window = wxWindow::FindWindowByLabel("Print Preview -- Vantrel");
+    EXPECT_FALSE(window->IsEnabled());
+    printout.SetPageSizePixels(3300, 2550);
+    printout.OnPreparePrinting();
+    int low = 0, from = 0, to = 0;
+    printout.GetPageInfo(&low, &pages, &from, &to);
+  };
+  command(5013);
+  printFromPreview();
+  EXPECT_EQ(printer_.prints, 1);
+  EXPECT_TRUE(printer_.prompted);
+  EXPECT_EQ(printer_.title, "Vantrel Layout");
+  EXPECT_EQ(printer_.givenPaper, wxPAPER_LETTER);
+  EXPECT_EQ(pages, 1);
+  EXPECT_EQ(frame().printData().GetPaperId(), wxPAPER_A4);
+  EXPECT_TRUE(previewWindow()->IsEnabled());
+  // Once more it begins with what was chosen.
+  printFromPreview();
+  EXPECT_EQ(printer_.givenPaper, wxPAPER_A4);
+}
+
+TEST_F(Printing, FromAPreviewTellsAProblemOfThePrinter) {
+  showFrame();
+  printer_.outcome = wxPRINTER_ERROR;
+  command(5013);
+  ModalScript script;
+  script.box("Print", kProblem, kErrorBox, wxID_OK);
+  printFromPreview();
+  EXPECT_EQ(frame().printData().GetPaperId(), wxPAPER_LETTER);
+}
+
+TEST_F(Printing, FromAPreviewManySheetsAreAskedAboutToo) {
+  showFrame();
+  plan().baseboard = {{0, 0}, {10000, 0}, {10000, 4000}, {0, 4000}};
+  const std::string question =
+      "At this scale the layout takes about 819 sheets of paper.\n\nPrint it?";
+  ModalScript script;
+  script.shown("Print Options", ChooseFullSize).box("Print", question, kCautiousBox, wxID_NO);
+  command(5010);
+  command(5013);  // is shown without a question
+  script.box("Print", question, kCautiousBox, wxID_NO);
+  printFromPreview();
+  EXPECT_EQ(printer_.prints, 0);
+  script.box("Print", question, kCautiousBox, wxID_YES);
+  printFromPreview();
+  EXPECT_EQ(printer_.prints, 1);
+}
+
+TEST_F(Printing, APreviewOfAnAbsurdNumberOfSheetsOpensAndShowsTheFirst) {
+  showFrame();
+  plan().baseboard = {{0, 0}, {1e300, 0}, {1e300, 1e300}};
+  ModalScript script;
+  script.shown("Print Options", ChooseFullSize)
+      .box("Print",
+           "At this scale the layout takes more than 10,000 sheets of paper.\n\nChoose a smaller "
+           "scale, or look for something that lies far away from the rest.",
+           wxOK | wxICON_WARNING, wxID_OK);
+  command(5010);
+  const auto start = std::chrono::steady_clock::now();
+  command(5013);
+  for (int i = 0; i < 20; ++i) {
+    wxTheApp->Yield();
+    wxTheApp->ProcessIdle();
+    wxMilliSleep(5);
+  }
+  auto* window = dynamic_cast<wxPreviewFrame*>(previewWindow());
+  ASSERT_NE(window, nullptr);
+  wxPrintPreviewBase* preview = window->GetControlBar()->GetPrintPreview();
+  EXPECT_EQ(preview->GetCurrentPage(), 1);
+  EXPECT_EQ(preview->GetMaxPage(), std::numeric_limits<int>::max());
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 
 TEST_F(Printing, TheFrameMayEndBeneathAnOpenPreview) {
