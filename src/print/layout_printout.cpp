@@ -67,7 +67,7 @@ bool LayoutPrintout::OnPrintPage(int page) {
     putLevelsBack();
     return false;
   }
-  if (size != lastPage_) paginateFor(size);
+  if (size != lastPage()) paginateFor(size);
   if (!HasPage(page)) {
     putLevelsBack();
     return false;
@@ -105,7 +105,8 @@ int LayoutPrintout::resolution() const {
 }
 
 void LayoutPrintout::paginateFor(DeviceSize page) {
-  lastPage_ = page;
+  lastPageW_ = page.width;
+  lastPageH_ = page.height;
   pages_ = paginate(bounds_, options_, page, resolution());
 }
 
@@ -137,7 +138,7 @@ void LayoutPrintout::render(wxDC& dc, int page) {
 // A pixel is a ninety-sixth of an inch on every paper, and a text as large beside it as on this
 // user's screen.
 ViewTransform LayoutPrintout::viewOn(wxDC& dc, int page) const {
-  ViewTransform view = pageView(pages_, bounds_, lastPage_, page);
+  ViewTransform view = pageView(pages_, bounds_, lastPage(), page);
   const int dpi = resolution() < 1 ? kUsualDpi : resolution();
   view.pixel = dpi / kScreenDpi;
   view.fontScale = view.pixel * MeasuredHeightOnScreen() / MeasuredHeight(dc);
@@ -145,10 +146,10 @@ ViewTransform LayoutPrintout::viewOn(wxDC& dc, int page) const {
 }
 
 void LayoutPrintout::draw(wxDC& dc, int page) {
-  const PageArea area = drawnArea(pages_, lastPage_, page);
+  const PageArea area = drawnArea(pages_, lastPage(), page);
   const wxDCClipper clipper(dc, area.left, area.top, area.width, area.height);
   RenderContext context;
-  DrawLayoutContents(context, dc, *layout_, viewOn(dc, page), lastPage_);
+  DrawLayoutContents(context, dc, *layout_, viewOn(dc, page), lastPage());
 }
 
 wxBitmap LayoutPrintout::makePageBitmap(wxSize size) const {
@@ -158,7 +159,7 @@ wxBitmap LayoutPrintout::makePageBitmap(wxSize size) const {
 
 // False when there isn't the memory for it, and then nothing is on the paper yet.
 bool LayoutPrintout::drawGreyBitmap(wxDC& dc, int page) try {
-  wxBitmap bitmap = makePageBitmap(wxSize(lastPage_.width, lastPage_.height));
+  wxBitmap bitmap = makePageBitmap(wxSize(lastPageW_, lastPageH_));
   if (!bitmap.IsOk()) return false;
   {
     wxMemoryDC memory(bitmap);

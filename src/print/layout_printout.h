@@ -36,6 +36,7 @@ class LayoutPrintout : public wxPrintout {
 
  private:
   DeviceSize pageSize() const;
+  DeviceSize lastPage() const { return {lastPageW_, lastPageH_}; }
   void paginateFor(DeviceSize page);
   void showLevels();
   void putLevelsBack();
@@ -49,7 +50,8 @@ class LayoutPrintout : public wxPrintout {
   const PrintOptions options_;
   PrintBounds bounds_;
   Pagination pages_;
-  DeviceSize lastPage_;  // the pagination was made for it
+  int lastPageW_ = 0;  // the page that the pagination was made for
+  int lastPageH_ = 0;
   bool levelsShown_ = false;
   LevelStates savedLevels_;
 };

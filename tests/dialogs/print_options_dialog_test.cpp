@@ -135,6 +135,36 @@ TEST_F(PrintOptionsPage, ANumberThatIsNoneIsToldInItsOwnModeAlone) {
   EXPECT_EQ(dialog.options().mode, kFitToPage);
 }
 
+TEST_F(PrintOptionsPage, StandsInItsOrderFromTheTop) {
+  ModalScript script;
+  script.shown("Print Options", [](wxDialog& dialog) {
+    const std::vector<wxWindow*> column = {
+        &Radio(dialog, 0),         &Spin(dialog, 0),  &Spin(dialog, 1),
+        &Radio(dialog, 1),         &Radio(dialog, 2), FindControl<wxStaticBox>(dialog, "Include"),
+        dialog.FindWindow(wxID_OK)};
+    for (std::size_t i = 1; i < column.size(); ++i)
+      EXPECT_GE(column[i]->GetPosition().y,
+                column[i - 1]->GetPosition().y + column[i - 1]->GetSize().y)
+          << i;
+    const auto left = [&dialog](const char* text) {
+      return FindControl<wxStaticText>(dialog, text)->GetPosition().x;
+    };
+    EXPECT_LT(left("    1 :"), Spin(dialog, 0).GetPosition().x);
+    EXPECT_LT(Spin(dialog, 0).GetPosition().x,
+              left("  (e.g. 1:10 -- 10 mm on layout = 1 mm on paper)"));
+    EXPECT_LT(left("    Scale:"), Spin(dialog, 1).GetPosition().x);
+    EXPECT_LT(Spin(dialog, 1).GetPosition().x, left("  %"));
+    EXPECT_NE(dialog.FindWindow(wxID_CANCEL), nullptr);
+    PressStandard(dialog, wxID_CANCEL);
+  });
+  PrintOptionsDialog dialog(parent_, options_);
+  EXPECT_EQ(dialog.ShowModal(), wxID_CANCEL);
+  EXPECT_EQ(Radio(dialog, 0).GetColumnCount(), 1U);
+  EXPECT_EQ(Radio(dialog, 1).GetColumnCount(), 1U);
+  EXPECT_EQ(Radio(dialog, 2).GetColumnCount(), 2U);
+  for (const std::size_t i : {0, 1}) EXPECT_GE(Spin(dialog, i).GetMinSize().x, 80);
+}
+
 TEST_F(PrintOptionsPage, NothingIsCutOff) {
   ModalScript script;
   script.shown("Print Options", [](wxDialog& dialog) {

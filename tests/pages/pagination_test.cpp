@@ -71,6 +71,16 @@ TEST(PrintPages, FitToPageIsOnePageAtTheTighterScale) {
   EXPECT_NEAR(high.scale, 1.0, 1e-9);
 }
 
+TEST(PrintPages, PartsOfADotAreNotUsable) {
+  // 0.92 * 2480 = 2281.6 and 0.92 * 3508 = 3227.36.
+  EXPECT_NEAR(paginate({0, 0, 1000, 1}, {}, kA4Portrait, 300).scale, 2.281, 1e-9);
+  // 0.92 * 1238 = 1138.96.
+  EXPECT_NEAR(paginate({0, 0, 1, 1000}, {}, {2480, 1238}, 300).scale, 1.138, 1e-9);
+  // At 254 dots an inch and 1:10 a millimetre is a dot.
+  ExpectPages(paginate({0, 0, 2281, 3227}, AtScale(10), kA4Portrait, 254), 1, 1);
+  ExpectPages(paginate({0, 0, 2282, 3228}, AtScale(10), kA4Portrait, 254), 2, 2);
+}
+
 TEST(PrintPages, AHundredPercentIsTheSameAsFitToPage) {
   for (int i = 0; i < 2000; ++i) {
     const PrintBounds bounds{0.1 * i, 3.3, 0.1 * i + 7.77 * i + 1.3, 1000.0 / 3.0 + 0.77 * i};
@@ -98,12 +108,51 @@ TEST(PrintPages, AnExactFitDoesNotSpill) {
 TEST(PrintPages, ResolutionScaleAndPercentageBelowOneHaveTheirUsualValues) {
   EXPECT_EQ(paginate(kTable, AtScale(10), kA4Portrait, 0),
             paginate(kTable, AtScale(10), kA4Portrait, 300));
+  EXPECT_EQ(paginate(kTable, AtScale(10), kA4Portrait, -600),
+            paginate(kTable, AtScale(10), kA4Portrait, 300));
   EXPECT_EQ(paginate(kTable, AtScale(0), kA4Portrait, 300),
             paginate(kTable, AtScale(1), kA4Portrait, 300));
   EXPECT_EQ(paginate(kTable, AtScale(-7), kA4Portrait, 300),
             paginate(kTable, AtScale(1), kA4Portrait, 300));
   EXPECT_EQ(paginate(kTable, AtPercent(0), kA4Portrait, 300),
             paginate(kTable, AtPercent(1), kA4Portrait, 300));
+  EXPECT_EQ(paginate(kTable, AtPercent(-50), kA4Portrait, 300),
+            paginate(kTable, AtPercent(1), kA4Portrait, 300));
+}
+
+TEST(PrintPages, APercentageShrinksOrGrowsTheFittedScale) {
+  // Fitted 3036 / 2400 = 1.265.
+  const Pagination half = paginate(kTable, AtPercent(50), kLetterLandscape, 300);
+  EXPECT_NEAR(half.scale, 0.6325, 1e-9);
+  ExpectPages(half, 1, 1);
+  EXPECT_NEAR(paginate(kTable, AtPercent(101), kLetterLandscape, 300).scale, 1.27765, 1e-9);
+  // 1.01 sheets across, 1518 * 1.01 / 2346 = 0.65 down.
+  ExpectPages(paginate(kTable, AtPercent(101), kLetterLandscape, 300), 2, 1);
+}
+
+TEST(PrintPages, OfTheStrangestNumbersHaveAScaleAndACount) {
+  constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+  constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const double infinite = std::numeric_limits<double>::infinity();
+  for (const PrintBounds& bounds :
+       {kTable, PrintBounds{nan, nan, nan, nan},
+        PrintBounds{-infinite, -infinite, infinite, infinite},
+        PrintBounds{-1e300, 1e300, 1e300, -1e300}, PrintBounds{5, 5, 5, 5}})
+    for (const std::int32_t number : {kLeast, -1, 0, 1, kMost})
+      for (const PrintOptions& options : {PrintOptions{}, AtScale(number), AtPercent(number)})
+        for (const DeviceSize page :
+             {DeviceSize{kMost, kMost}, {kLeast, kLeast}, {0, 0}, {1, kMost}, {2480, 3508}})
+          for (const int dpi : {kLeast, 0, 1, kMost}) {
+            const Pagination pages = paginate(bounds, options, page, dpi);
+            ASSERT_GE(pages.pagesAcross, 1);
+            ASSERT_GE(pages.pagesDown, 1);
+            ASSERT_GE(pages.pageCount(), 1);
+            for (const int sheet : {1, pages.pageCount(), kMost}) {
+              pageView(pages, bounds, page, sheet);
+              drawnArea(pages, page, sheet);
+            }
+          }
 }
 
 TEST(PrintPages, AnUnknownModeFitsToThePage) {
@@ -141,6 +190,52 @@ TEST(PrintPages, ASinglePageHasItsContentInTheMiddle) {
   EXPECT_EQ(view.toDevice({-500.0, 100.0}), (DevicePoint{132, 516}));
   EXPECT_NEAR(view.scale * 1900.0 + view.offsetX, 3168.0, 1e-9);
   EXPECT_NEAR(view.scale * 1300.0 + view.offsetY, 2034.0, 1e-9);
+}
+
+TEST(PrintPages, ASinglePageHasItsContentInTheMiddleAcrossToo) {
+  // Upright: 2400 mm fill the height of 2346 dots, at 0.9775; 1200 mm are 1173 of 3036 dots across,
+  // and half of the rest, 931.5, lies left of them.
+  const PrintBounds upright{40.0, -30.0, 1240.0, 2370.0};
+  const Pagination pages = paginate(upright, {}, kLetterLandscape, 300);
+  const ViewTransform view = pageView(pages, upright, kLetterLandscape, 1);
+  EXPECT_NEAR(view.scale * 40.0 + view.offsetX, 132.0 + 931.5, 1e-9);
+  EXPECT_NEAR(view.scale * -30.0 + view.offsetY, 102.0, 1e-9);
+}
+
+TEST(PrintPages, MarginsAreWholeDotsCutOff) {
+  // 0.04 * 2490 = 99.6 and 0.04 * 1215 = 48.6; 2490 - 2 * 99 and 1215 - 2 * 48 are left.
+  EXPECT_EQ(usableArea({2490, 1215}), (PageArea{99, 48, 2292, 1119}));
+}
+
+TEST(PrintPages, SeveralInOneDirectionAreNotCentredInTheOther) {
+  // 1:5 on A4: 5669 by 2835 dots on 3 sheets by 1, of which 2835 of 3228 dots are used down. The
+  // margins are 99 and 140 dots.
+  const Pagination across = paginate(kTable, AtScale(5), kA4Portrait, 300);
+  ExpectPages(across, 3, 1);
+  EXPECT_NEAR(pageView(across, kTable, kA4Portrait, 1).offsetX, 99.0, 1e-9);
+  EXPECT_NEAR(pageView(across, kTable, kA4Portrait, 1).offsetY, 140.0, 1e-9);
+  // The usable width is 2480 - 2 * 99 = 2282: 99 - 2 * 2282.
+  EXPECT_NEAR(pageView(across, kTable, kA4Portrait, 3).offsetX, -4465.0, 1e-9);
+  EXPECT_NEAR(pageView(across, kTable, kA4Portrait, 3).offsetY, 140.0, 1e-9);
+  const PrintBounds narrow{0.0, 0.0, 600.0, 2400.0};
+  const Pagination down = paginate(narrow, AtScale(5), kLetterLandscape, 300);
+  ExpectPages(down, 1, 3);  // 1417 by 5669 dots: 0.47, 2.42
+  EXPECT_NEAR(pageView(down, narrow, kLetterLandscape, 1).offsetX, 132.0, 1e-9);
+  // 102 - 2 * 2346.
+  EXPECT_NEAR(pageView(down, narrow, kLetterLandscape, 3).offsetX, 132.0, 1e-9);
+  EXPECT_NEAR(pageView(down, narrow, kLetterLandscape, 3).offsetY, -4590.0, 1e-9);
+}
+
+TEST(PrintPages, AreCountedRowByRow) {
+  // 3 across and 2 down: the fourth is the first of the second row.
+  const Pagination pages{1.0, 3, 2};
+  const PrintBounds bounds{0.0, 0.0, 9000.0, 4000.0};
+  const ViewTransform third = pageView(pages, bounds, kLetterLandscape, 3);
+  EXPECT_NEAR(third.offsetX, 132.0 - 2 * 3036, 1e-9);
+  EXPECT_NEAR(third.offsetY, 102.0, 1e-9);
+  const ViewTransform fourth = pageView(pages, bounds, kLetterLandscape, 4);
+  EXPECT_NEAR(fourth.offsetX, 132.0, 1e-9);
+  EXPECT_NEAR(fourth.offsetY, 102.0 - 2346, 1e-9);
 }
 
 TEST(PrintPages, OfSeveralStartAtTheirMarginsAndMeet) {

@@ -47,6 +47,24 @@ TEST(PrintBounds, CoverBothEndsOfAPiecesStraightLine) {
   ExpectBounds(boundsOfPrint(plan, {}), -88.3, 50, 100, 50);
 }
 
+// "24130" is a curve of 360 mm radius and 30 degrees. Its length is that of its arc, 360 * pi / 6 =
+// 188.495559 mm, and counts along its heading, though its end lies at 180 by 48.2 mm.
+TEST(PrintBounds, TakeACurveForAStraightOfItsLength) {
+  Layout plan;
+  plan.pieces = {Straight(10, 20, 0)};
+  plan.pieces[0].cat = "24130";
+  const PrintBounds bounds = boundsOfPrint(plan, {});
+  EXPECT_NEAR(bounds.maxX, 198.495559, 1e-6);
+  EXPECT_EQ(bounds.maxY, 20.0);
+}
+
+TEST(PrintBounds, StartABillionMillimetresAway) {
+  // What lies beyond is extended to from there, as the smallest and largest numbers say.
+  Layout plan;
+  plan.scenery = {Item(3e9, -3e9, 1)};
+  ExpectBounds(boundsOfPrint(plan, {}), 1e9, -3e9, 3e9, -1e9);
+}
+
 TEST(PrintBounds, NothingToPrintIsASquareOfAMetre) {
   ExpectBounds(boundsOfPrint(Layout{}, {}), 0, 0, 1000, 1000);
 }

@@ -80,8 +80,30 @@ TEST_F(PrintedLevels, AGridThatIsHiddenOnTheScreenStaysHiddenOnPaper) {
   plan_.gridVisible = false;
   PrintOptions options;
   options.includeGrid = true;
-  const PrintedGround ground(plan_, options);
+  {
+    const PrintedGround ground(plan_, options);
+    EXPECT_FALSE(plan_.gridVisible);
+    EXPECT_TRUE(plan_.baseboardVisible);
+  }
   EXPECT_FALSE(plan_.gridVisible);
+  EXPECT_TRUE(plan_.baseboardVisible);
+}
+
+TEST_F(PrintedLevels, ABaseboardThatIsHiddenStaysHiddenAfterThePage) {
+  plan_.baseboardVisible = false;
+  {
+    const PrintedGround ground(plan_, PrintOptions{});
+    EXPECT_FALSE(plan_.gridVisible);
+    EXPECT_FALSE(plan_.baseboardVisible);
+  }
+  EXPECT_TRUE(plan_.gridVisible);
+  EXPECT_FALSE(plan_.baseboardVisible);
+}
+
+TEST_F(PrintedLevels, AreNoneWhenTheActiveOneIsMissing) {
+  plan_.activeLevel = 99;
+  showPrintedLevels(plan_, {});
+  EXPECT_EQ(Visible(plan_), (std::vector<bool>{false, false, false}));
 }
 
 }  // namespace

@@ -1,87 +1,15 @@
 #include "print/layout_printout.h"
 
-#include <gtest/gtest.h>
-#include <wx/dcmemory.h>
 #include <wx/print.h>
 
 #include <chrono>
-#include <functional>
 #include <limits>
-#include <memory>
 
-#include "print/grey_dc.h"
 #include "print/layout_preview.h"
-#include "tests/support/recording_dc.h"
+#include "tests/print/printed_layout.h"
 
 namespace vantrel {
 namespace {
-
-constexpr int kLetterWidth = 3300;  // landscape at 300 dots an inch; usable: 3036 by 2346
-constexpr int kLetterHeight = 2550;
-
-class PrintedLayout : public testing::Test {
- protected:
-  PrintedLayout() {
-    for (const std::int32_t id : {1, 2, 3}) {
-      Level level;
-      level.id = id;
-      level.visible = id != 2;
-      plan_.levels.push_back(level);
-    }
-    plan_.activeLevel = 2;
-    plan_.baseboard = {{0, 0}, {2400, 0}, {2400, 1200}, {0, 1200}};
-    addStraight(100, 2);
-    addStraight(600, 1);
-  }
-
-  void addStraight(double y, std::int32_t level) {
-    Piece piece;
-    piece.id = plan_.nextId++;
-    piece.cat = "24188";
-    piece.x = 100;
-    piece.y = y;
-    piece.level = level;
-    plan_.pieces.push_back(piece);
-  }
-
-  LayoutPrintout& printout() {
-    if (!printout_) {
-      printout_ = std::make_unique<LayoutPrintout>(plan_, options_);
-      setUp(*printout_, kLetterWidth, kLetterHeight, 300);
-    }
-    return *printout_;
-  }
-
-  void setUp(LayoutPrintout& out, int width, int height, int dpi) {
-    out.SetPageSizePixels(width, height);
-    out.SetPPIPrinter(dpi, dpi);
-    out.SetDC(&dc_);
-  }
-
-  std::vector<bool> visible() const {
-    std::vector<bool> visible;
-    for (const Level& level : plan_.levels) visible.push_back(level.visible);
-    return visible;
-  }
-  void expectPlanAsItWas() const {
-    EXPECT_EQ(visible(), (std::vector<bool>{true, false, true}));
-    EXPECT_TRUE(plan_.gridVisible);
-    EXPECT_TRUE(plan_.baseboardVisible);
-  }
-  void expectLevelsOfPrint() const {
-    EXPECT_EQ(visible(), (std::vector<bool>{false, true, false}));
-  }
-
-  void atOneToFive() {  // 2 sheets by 2
-    options_.mode = kActualScale;
-    options_.scaleN = 5;
-  }
-
-  Layout plan_;
-  PrintOptions options_;
-  RecordingDC dc_{{kLetterWidth, kLetterHeight}, 300};
-  std::unique_ptr<LayoutPrintout> printout_;
-};
 
 TEST_F(PrintedLayout, IsTitledAsTheLayout) {
   EXPECT_EQ(printout().GetTitle(), "Vantrel Layout");
@@ -196,6 +124,57 @@ TEST_F(PrintedLayout, IsPaginatedAnewForAnotherPageSize) {
   expectPlanAsItWas();
 }
 
+TEST_F(PrintedLayout, IsPaginatedAnewWhenThePageHasChangedInOneDirection) {
+  atOneToFive();
+  printout().OnPreparePrinting();
+  printout().SetPageSizePixels(2 * kLetterWidth, kLetterHeight);
+  printout().OnPrintPage(1);
+  EXPECT_EQ(printout().pages().pageCount(), 2);  // 0.93 by 1.21
+  printout().SetPageSizePixels(2 * kLetterWidth, 2 * kLetterHeight);
+  printout().OnPrintPage(1);
+  EXPECT_EQ(printout().pages().pageCount(), 1);
+}
+
+TEST_F(PrintedLayout, KeepsItsPaginationOnTheSamePage) {
+  atOneToFive();
+  printout().OnPreparePrinting();
+  printout().SetPPIPrinter(1200, 1200);
+  printout().OnPrintPage(1);
+  EXPECT_EQ(printout().pages().pageCount(), 4);
+}
+
+TEST_F(PrintedLayout, WithoutAResolutionIsPrintedAsOnThreeHundredDotsAnInch) {
+  options_.mode = kActualScale;
+  options_.scaleN = 10;
+  LayoutPrintout out(plan_, options_);
+  setUp(out, kLetterWidth, kLetterHeight, 0);
+  out.OnPreparePrinting();
+  EXPECT_NEAR(out.pages().scale, 1.1811, 1e-4);
+  out.OnPrintPage(1);
+  std::vector<int> widths;
+  for (const DrawCall& call : dc_.calls())
+    if (call.pen.colour == Rgba{120, 90, 50, 255}) widths.push_back(call.pen.width);
+  ASSERT_FALSE(widths.empty());
+  EXPECT_EQ(widths, std::vector<int>(widths.size(), 6));  // 2 pixels of 300 / 96 dots
+}
+
+// The page's last tile shows the table's lower right corner at 2400 by 1200 mm.
+TEST_F(PrintedLayout, DrawsEachPageUnderItsOwnView) {
+  atOneToFive();
+  plan_.labels.resize(1);
+  plan_.labels[0].text = "corner";
+  plan_.labels[0].x = 2390;
+  plan_.labels[0].y = 1190;
+  printout().OnPreparePrinting();
+  printout().OnPrintPage(1);
+  EXPECT_EQ(dc_.texts("corner").size(), 0U);
+  dc_.forget();
+  printout().OnPrintPage(4);
+  ASSERT_EQ(dc_.texts("corner").size(), 1U);
+  // At 2.3622 dots a mm: 132 + 2390 * 2.3622 - 3036 and 102 + 1190 * 2.3622 - 2346, truncated.
+  EXPECT_EQ(dc_.texts("corner")[0].points[0], wxPoint(2741, 567));
+}
+
 TEST_F(PrintedLayout, DrawsOnlyTheActiveLevelThoughSceneryElsewhereWidensTheBounds) {
   SceneryItem item;
   item.id = 50;
@@ -268,89 +247,6 @@ TEST_F(PrintedLayout, LinesAndTextsAreAsLargeOnPaperAtEveryResolution) {
   EXPECT_TRUE(found);
 }
 
-// Whatever the page's bitmap fails of.
-class WithoutBitmap : public LayoutPrintout {
- public:
-  using LayoutPrintout::LayoutPrintout;
-  mutable int asked = 0;
-
- protected:
-  wxBitmap makePageBitmap(wxSize) const override {
-    ++asked;
-    return wxNullBitmap;
-  }
-};
-
-bool IsGrey(const Rgba& colour) {
-  return colour.r == colour.g && colour.g == colour.b;
-}
-
-TEST_F(PrintedLayout, InGreyIsOneBitmapOfThePage) {
-  options_.grayscale = 1;
-  LayoutPrintout out(plan_, options_);
-  setUp(out, 660, 510, 60);
-  out.OnPreparePrinting();
-  EXPECT_TRUE(out.OnPrintPage(1));
-  ASSERT_EQ(dc_.calls().size(), 1U);
-  EXPECT_EQ(dc_.calls()[0].op, DrawOp::bitmap);
-  EXPECT_EQ(dc_.calls()[0].box, wxRect(0, 0, 660, 510));
-}
-
-TEST_F(PrintedLayout, InGreyWithoutABitmapIsDrawnInShadesOfGrey) {
-  options_.grayscale = 1;
-  WithoutBitmap out(plan_, options_);
-  setUp(out, kLetterWidth, kLetterHeight, 300);
-  out.OnPreparePrinting();
-  EXPECT_TRUE(out.OnPrintPage(1));
-  EXPECT_EQ(out.asked, 1);
-  ASSERT_GT(dc_.calls().size(), 5U);
-  for (const DrawCall& call : dc_.calls()) {
-    EXPECT_TRUE(IsGrey(call.pen.colour)) << call;
-    EXPECT_TRUE(IsGrey(call.brush.colour)) << call;
-    EXPECT_TRUE(IsGrey(call.textForeground)) << call;
-  }
-  expectPlanAsItWas();
-}
-
-TEST_F(PrintedLayout, InGreyLooksTheSameWithAndWithoutABitmap) {
-  options_.grayscale = 1;
-  const auto paint = [this](LayoutPrintout&& out) {
-    wxBitmap bitmap(660, 510, 24);
-    wxMemoryDC memory(bitmap);
-    memory.SetBackground(*wxWHITE_BRUSH);
-    memory.Clear();
-    out.SetPageSizePixels(660, 510);
-    out.SetPPIPrinter(60, 60);
-    out.SetDC(&memory);
-    out.OnPreparePrinting();
-    EXPECT_TRUE(out.OnPrintPage(1));
-    memory.SelectObject(wxNullBitmap);
-    return bitmap.ConvertToImage();
-  };
-  const wxImage drawn = paint(WithoutBitmap(plan_, options_));
-  const wxImage blitted = paint(LayoutPrintout(plan_, options_));
-  ASSERT_EQ(drawn.GetSize(), blitted.GetSize());
-  int differing = 0;
-  for (int y = 0; y < 510; ++y)
-    for (int x = 0; x < 660; ++x)
-      differing += std::abs(drawn.GetRed(x, y) - blitted.GetRed(x, y)) > 3 ? 1 : 0;
-  EXPECT_EQ(differing, 0);
-  int ink = 0;
-  for (int y = 0; y < 510; ++y)
-    for (int x = 0; x < 660; ++x) ink += drawn.GetRed(x, y) < 250 ? 1 : 0;
-  EXPECT_GT(ink, 10'000);
-}
-
-TEST_F(PrintedLayout, InGreyOnALargeFinePageNeedsNoBitmap) {
-  options_.grayscale = 1;
-  LayoutPrintout out(plan_, options_);
-  setUp(out, 19843, 14031, 1200);  // A3
-  out.OnPreparePrinting();
-  EXPECT_TRUE(out.OnPrintPage(1));
-  EXPECT_EQ(dc_.count(DrawOp::bitmap), 0U);
-  EXPECT_GT(dc_.count(DrawOp::polygon), 0U);
-}
-
 TEST_F(PrintedLayout, OfAbsurdSizeIsNeitherSlowNorUndefined) {
   const auto start = std::chrono::steady_clock::now();
   for (const double far : {1e9, 1e300, std::numeric_limits<double>::infinity(),
@@ -393,13 +289,6 @@ TEST_F(PrintedLayout, APreviewLeavesThePlanAsItWasAfterEachPage) {
   }
   EXPECT_EQ(preview->GetMaxPage(), 4);
   preview->SetCanvas(nullptr);
-}
-
-TEST(GreyOf, IsTheLightnessWithTheColoursOwnOpacity) {
-  // 0.299 * 200 + 0.587 * 100 + 0.114 * 50 = 124.2.
-  EXPECT_EQ(greyOf(wxColour(200, 100, 50, 77)), wxColour(124, 124, 124, 77));
-  EXPECT_EQ(greyOf(*wxWHITE), *wxWHITE);
-  EXPECT_FALSE(greyOf(wxColour()).IsOk());
 }
 
 }  // namespace
