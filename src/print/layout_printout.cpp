@@ -8,7 +8,8 @@
 #include <algorithm>
 #include <new>
 
-#include "print/grey_dc.h"
+#include "print/paper_corner.h"
+#include "print/paper_dc.h"
 #include "render2d/contents_drawing.h"
 
 namespace vantrel {
@@ -74,6 +75,8 @@ bool LayoutPrintout::OnPrintPage(int page) {
   }
   showLevels();
   FitThisSizeToPage(wxSize(size.width, size.height));
+  const DevicePoint corner = paperCorner(*dc, size);
+  if (corner != DevicePoint{}) dc->SetDeviceOrigin(corner.x, corner.y);
   render(*dc, page);
   if (page == pages_.pageCount()) putLevelsBack();
   return true;
@@ -126,13 +129,9 @@ void LayoutPrintout::putLevelsBack() {
 
 void LayoutPrintout::render(wxDC& dc, int page) {
   const PrintedGround ground(*layout_, options_);
-  if (options_.grayscale == 0) {
-    draw(dc, page);
-    return;
-  }
-  if (drawGreyBitmap(dc, page)) return;
-  GreyDC grey(dc);
-  draw(grey, page);
+  if (options_.grayscale != 0 && drawGreyBitmap(dc, page)) return;
+  PaperDC paper(dc, options_.grayscale != 0 ? PaperColours::grey : PaperColours::asTheyAre);
+  draw(paper, page);
 }
 
 // A pixel is a ninety-sixth of an inch on every paper, and a text as large beside it as on this

@@ -4,7 +4,7 @@
 
 #include <cstdlib>
 
-#include "print/grey_dc.h"
+#include "print/paper_dc.h"
 #include "tests/print/printed_layout.h"
 
 namespace vantrel {

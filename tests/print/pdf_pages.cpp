@@ -18,6 +18,12 @@ Function* FromLibrary(const char* name) {
 
 constexpr int kExport = 3;
 constexpr int kResultError = 0;
+constexpr int kPageUpright = 0;
+constexpr int kPageAcross = 1;
+
+const char* NativeName(wxPaperSize size) {
+  return size == wxPAPER_LETTER ? "na_letter" : size == wxPAPER_A3 ? "iso_a3" : "iso_a4";
+}
 
 struct Run {
   wxGtkPrinter* printer = nullptr;
@@ -40,7 +46,7 @@ void End(GtkPrintOperation*, GtkPrintContext*, void* data) {
 
 }  // namespace
 
-bool PrintToPdf(wxPrintout& printout, const std::string& file) {
+bool PrintToPdf(wxPrintout& printout, const std::string& file, const PdfPaper& paper) {
   const auto newOperation = FromLibrary<GtkPrintOperation*()>("gtk_print_operation_new");
   const auto setFile =
       FromLibrary<void(GtkPrintOperation*, const char*)>("gtk_print_operation_set_export_filename");
@@ -48,6 +54,8 @@ bool PrintToPdf(wxPrintout& printout, const std::string& file) {
   const auto newPaper = FromLibrary<void*(const char*)>("gtk_paper_size_new");
   const auto setPaper =
       FromLibrary<void(GtkPageSetup*, void*)>("gtk_page_setup_set_paper_size_and_default_margins");
+  const auto setOrientation =
+      FromLibrary<void(GtkPageSetup*, int)>("gtk_page_setup_set_orientation");
   const auto setSetup = FromLibrary<void(GtkPrintOperation*, GtkPageSetup*)>(
       "gtk_print_operation_set_default_page_setup");
   const auto setSettings = FromLibrary<void(GtkPrintOperation*, GtkPrintSettings*)>(
@@ -58,13 +66,14 @@ bool PrintToPdf(wxPrintout& printout, const std::string& file) {
       FromLibrary<unsigned long(void*, const char*, void (*)(), void*, void*, int)>(
           "g_signal_connect_data");
   const auto unref = FromLibrary<void(void*)>("g_object_unref");
-  if (!newOperation || !setFile || !newSetup || !newPaper || !setPaper || !setSetup ||
-      !setSettings || !run || !connect || !unref)
+  if (!newOperation || !setFile || !newSetup || !newPaper || !setPaper || !setOrientation ||
+      !setSetup || !setSettings || !run || !connect || !unref)
     return false;
 
   wxPrintData data;
-  data.SetPaperId(wxPAPER_A4);
-  data.SetOrientation(wxPORTRAIT);
+  data.SetPaperId(paper.size);
+  data.SetOrientation(paper.orientation);
+  data.SetQuality(paper.dpi);
   data.ConvertToNative();
   wxPrintDialogData dialogData(data);
   wxGtkPrinter printer(&dialogData);
@@ -73,7 +82,8 @@ bool PrintToPdf(wxPrintout& printout, const std::string& file) {
 
   GtkPrintOperation* operation = newOperation();
   GtkPageSetup* setup = newSetup();
-  setPaper(setup, newPaper("iso_a4"));
+  setPaper(setup, newPaper(NativeName(paper.size)));
+  setOrientation(setup, paper.orientation == wxLANDSCAPE ? kPageAcross : kPageUpright);
   setSetup(operation, setup);
   setSettings(operation, native->GetPrintConfig());
   native->SetPrintJob(operation);

@@ -55,11 +55,11 @@ class PrintedPages : public testing::Test {
     options_.includeBaseboard = true;
   }
 
-  std::vector<wxImage> print() {
+  std::vector<wxImage> print(const PdfPaper& paper = {}, int pictureDpi = kPictureDpi) {
     LayoutPrintout printout(plan_, options_);
     const std::string file = temp_.at("plan.pdf");
-    EXPECT_TRUE(PrintToPdf(printout, file));
-    return PagesOfPdf(file, temp_.at(""), kPictureDpi);
+    EXPECT_TRUE(PrintToPdf(printout, file, paper));
+    return PagesOfPdf(file, temp_.at(""), pictureDpi);
   }
 
   Layout plan_;
@@ -93,6 +93,58 @@ TEST_F(PrintedPages, AMetreAcrossTheSeamOfTwoSheetsIsTenCentimetresTogether) {
   // own, 4 percent from the left edge: 8.4 mm.
   EXPECT_NEAR((pages[0].GetWidth() - 1 - left.last) * kMmPerDot, 8.4, 0.15);
   EXPECT_NEAR(right.first * kMmPerDot, 8.4, 0.15);
+}
+
+// Where the first and last dots darker than `most` lie, over the whole page.
+wxRect InkOf(const wxImage& page, int most) {
+  wxRect ink;
+  for (int y = 0; y < page.GetHeight(); ++y)
+    for (int x = 0; x < page.GetWidth(); ++x)
+      if (page.GetRed(x, y) <= most) ink.Union(wxRect(x, y, 1, 1));
+  return ink;
+}
+
+TEST_F(PrintedPages, ALabelStandsWhereItIsAndNotInTheCorner) {
+  options_.includeBaseboard = false;
+  plan_.levels = {Level{}};
+  plan_.activeLevel = plan_.levels[0].id;
+  // The extent is 1,000 mm by 1 mm around two scenery items, which themselves are unknown: on 210
+  // by 297 mm the middle of the extent lies at 105 by 148.5 mm.
+  SceneryItem item;
+  item.item = "none";
+  item.x = 0;
+  plan_.scenery = {item, item};
+  plan_.scenery[1].id = 1;
+  plan_.scenery[1].x = 1000;
+  Label label;
+  label.text = "Yard";
+  label.x = 500;
+  label.y = 0;
+  plan_.labels = {label};
+  const std::vector<wxImage> pages = print();
+  ASSERT_EQ(pages.size(), 1U);
+  const wxRect ink = InkOf(pages[0], 128);
+  ASSERT_FALSE(ink.IsEmpty());
+  // A label's place is its upper left corner; the letters begin a little below it.
+  EXPECT_NEAR(ink.x * kMmPerDot, 105.0, 1.5);
+  EXPECT_NEAR(ink.y * kMmPerDot, 148.5, 3.0);
+}
+
+class PrintedAcross : public PrintedPages, public testing::WithParamInterface<wxPaperSize> {};
+
+INSTANTIATE_TEST_SUITE_P(Papers, PrintedAcross,
+                         testing::Values(wxPAPER_LETTER, wxPAPER_A4, wxPAPER_A3));
+
+TEST_P(PrintedAcross, ThePlanStandsInTheMiddleOfThePaper) {
+  options_.mode = kFitToPage;
+  lay(1000, 0, 1000);
+  const int dpi = 100;
+  const std::vector<wxImage> pages = print({.size = GetParam(), .orientation = wxLANDSCAPE}, dpi);
+  ASSERT_EQ(pages.size(), 1U);
+  ASSERT_GT(pages[0].GetWidth(), pages[0].GetHeight());
+  const Stretch run = RedStretch(pages[0], pages[0].GetHeight() / 3);
+  // Within half a millimetre, 2 dots.
+  EXPECT_NEAR(run.first, pages[0].GetWidth() - 1 - run.last, 2);
 }
 
 }  // namespace

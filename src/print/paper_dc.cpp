@@ -1,4 +1,4 @@
-#include "print/grey_dc.h"
+#include "print/paper_dc.h"
 
 #include <wx/bitmap.h>
 #include <wx/brush.h>
@@ -9,21 +9,10 @@
 namespace vantrel {
 namespace {
 
-wxPen GreyPen(wxPen pen) {
-  if (pen.IsOk() && pen.GetStyle() != wxPENSTYLE_TRANSPARENT)
-    pen.SetColour(greyOf(pen.GetColour()));
-  return pen;
-}
-
-wxBrush GreyBrush(wxBrush brush) {
-  if (brush.IsOk() && brush.GetStyle() != wxBRUSHSTYLE_TRANSPARENT)
-    brush.SetColour(greyOf(brush.GetColour()));
-  return brush;
-}
-
-class GreyDCImpl : public wxDCImpl {
+class PaperDCImpl : public wxDCImpl {
  public:
-  GreyDCImpl(wxDC* owner, wxDC& target) : wxDCImpl(owner), target_(target) {
+  PaperDCImpl(wxDC* owner, wxDC& target, PaperColours colours)
+      : wxDCImpl(owner), target_(target), colours_(colours) {
     m_ok = target.IsOk();
     m_font = target.GetFont();
     m_textForegroundColour = target.GetTextForeground();
@@ -43,27 +32,24 @@ class GreyDCImpl : public wxDCImpl {
   }
   void SetPen(const wxPen& pen) override {
     m_pen = pen;
-    target_.SetPen(GreyPen(pen));
+    target_.SetPen(penOf(pen));
   }
   void SetBrush(const wxBrush& brush) override {
     m_brush = brush;
-    target_.SetBrush(GreyBrush(brush));
+    target_.SetBrush(brushOf(brush));
   }
   void SetBackground(const wxBrush& brush) override {
     m_backgroundBrush = brush;
-    target_.SetBackground(GreyBrush(brush));
+    target_.SetBackground(brushOf(brush));
   }
-  void SetBackgroundMode(int mode) override {
-    m_backgroundMode = mode;
-    target_.SetBackgroundMode(mode);
-  }
+  void SetBackgroundMode(int mode) override { m_backgroundMode = mode; }
   void SetTextForeground(const wxColour& colour) override {
     m_textForegroundColour = colour;
-    target_.SetTextForeground(greyOf(colour));
+    target_.SetTextForeground(colourOf(colour));
   }
   void SetTextBackground(const wxColour& colour) override {
     m_textBackgroundColour = colour;
-    target_.SetTextBackground(greyOf(colour));
+    target_.SetTextBackground(colourOf(colour));
   }
 #if wxUSE_PALETTE
   void SetPalette(const wxPalette&) override {}
@@ -97,15 +83,15 @@ class GreyDCImpl : public wxDCImpl {
   }
 
   bool DoFloodFill(wxCoord x, wxCoord y, const wxColour& colour, wxFloodFillStyle style) override {
-    return target_.FloodFill(x, y, greyOf(colour), style);
+    return target_.FloodFill(x, y, colourOf(colour), style);
   }
   void DoGradientFillLinear(const wxRect& rect, const wxColour& from, const wxColour& to,
                             wxDirection direction) override {
-    target_.GradientFillLinear(rect, greyOf(from), greyOf(to), direction);
+    target_.GradientFillLinear(rect, colourOf(from), colourOf(to), direction);
   }
   void DoGradientFillConcentric(const wxRect& rect, const wxColour& from, const wxColour& to,
                                 const wxPoint& centre) override {
-    target_.GradientFillConcentric(rect, greyOf(from), greyOf(to), centre);
+    target_.GradientFillConcentric(rect, colourOf(from), colourOf(to), centre);
   }
   bool DoGetPixel(wxCoord x, wxCoord y, wxColour* colour) const override {
     return target_.GetPixel(x, y, colour);
@@ -142,6 +128,7 @@ class GreyDCImpl : public wxDCImpl {
     target_.DrawBitmap(bitmap, x, y, useMask);
   }
   void DoDrawText(const wxString& text, wxCoord x, wxCoord y) override {
+    drawGround(text, x, y);
     target_.DrawText(text, x, y);
   }
   void DoDrawRotatedText(const wxString& text, wxCoord x, wxCoord y, double angle) override {
@@ -165,7 +152,32 @@ class GreyDCImpl : public wxDCImpl {
   }
 
  private:
+  wxColour colourOf(const wxColour& colour) const {
+    return colours_ == PaperColours::grey ? greyOf(colour) : colour;
+  }
+  wxPen penOf(wxPen pen) const {
+    if (pen.IsOk() && pen.GetStyle() != wxPENSTYLE_TRANSPARENT)
+      pen.SetColour(colourOf(pen.GetColour()));
+    return pen;
+  }
+  wxBrush brushOf(wxBrush brush) const {
+    if (brush.IsOk() && brush.GetStyle() != wxBRUSHSTYLE_TRANSPARENT)
+      brush.SetColour(colourOf(brush.GetColour()));
+    return brush;
+  }
+  // The target itself never gets another background mode than the transparent one.
+  void drawGround(const wxString& text, wxCoord x, wxCoord y) {
+    if (m_backgroundMode != wxBRUSHSTYLE_SOLID) return;
+    const wxSize size = target_.GetMultiLineTextExtent(text);
+    target_.SetPen(*wxTRANSPARENT_PEN);
+    target_.SetBrush(wxBrush(colourOf(m_textBackgroundColour)));
+    target_.DrawRectangle(x, y, size.x, size.y);
+    target_.SetPen(penOf(m_pen));
+    target_.SetBrush(brushOf(m_brush));
+  }
+
   wxDC& target_;
+  const PaperColours colours_;
 };
 
 }  // namespace
@@ -178,6 +190,7 @@ wxColour greyOf(const wxColour& colour) {
   return wxColour(grey, grey, grey, colour.Alpha());
 }
 
-GreyDC::GreyDC(wxDC& target) : wxDC(new GreyDCImpl(this, target)) {}
+PaperDC::PaperDC(wxDC& target, PaperColours colours)
+    : wxDC(new PaperDCImpl(this, target, colours)) {}
 
 }  // namespace vantrel
