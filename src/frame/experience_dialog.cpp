@@ -16,11 +16,18 @@ constexpr int kWrapWidth = 380;  // pixels
 constexpr int kTextBorder = 16;
 constexpr int kButtonBorder = 8;
 
+// GTK measures a control in the usual letters until it is on the screen.
+wxSize RoomFor(const wxControl& control) {
+  const wxString label = control.GetLabel();
+  return control.GetBestSize() + control.GetTextExtent(label) -
+         control.GetParent()->GetTextExtent(label);
+}
+
 void AddButton(wxDialog& dialog, wxSizer& row, int id, const char* label) {
   auto* button = new wxButton(&dialog, id, label);
   button->SetFont(OnePointLarger(button->GetFont()));
   wxSize size = kButtonSize;
-  size.IncTo(button->GetBestSize());
+  size.IncTo(RoomFor(*button));
   button->SetMinSize(size);
   button->Bind(wxEVT_BUTTON, [&dialog, id](wxCommandEvent&) { dialog.EndModal(id); });
   row.Add(button, 0, wxALL, kButtonBorder);
@@ -34,6 +41,7 @@ ExperienceDialog::ExperienceDialog(wxWindow* parent)
                                     wxDefaultPosition, wxDefaultSize, wxALIGN_CENTRE_HORIZONTAL);
   question->SetFont(OnePointLarger(question->GetFont()).Bold());
   question->Wrap(kWrapWidth);
+  question->SetMinSize(RoomFor(*question));
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   row->AddStretchSpacer();
   AddButton(*this, *row, kKeepItPlayful, "Keep it Playful");

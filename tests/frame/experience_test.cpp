@@ -76,5 +76,25 @@ TEST_F(Experience, OffersTwoLargeButtonsUnderTheQuestion) {
   }
 }
 
+// On the screen the larger letters are there: before that the toolkit measures the usual ones.
+TEST_F(Experience, StandsInTheMiddleOfTheMainWindowAndCutsNothingOff) {
+  showFrame();
+  ModalScript script;
+  script.shown("Choose Your Experience", [this](wxDialog& dialog) {
+    const wxRect outer = frame().GetRect();
+    const wxRect inner = dialog.GetRect();
+    EXPECT_NEAR(inner.x + inner.width / 2, outer.x + outer.width / 2, 1);
+    // The height of the title bar is a guess until the window manager has put it there.
+    EXPECT_NEAR(inner.y + inner.height / 2, outer.y + outer.height / 2, 15);
+    for (const wxWindow* child : dialog.GetChildren()) {
+      EXPECT_GE(child->GetSize().x, child->GetBestSize().x) << child->GetLabel();
+      EXPECT_GE(child->GetSize().y, child->GetBestSize().y) << child->GetLabel();
+    }
+    dialog.Close();
+  });
+  ExperienceDialog(&frame()).ShowModal();
+  EXPECT_TRUE(script.finished());
+}
+
 }  // namespace
 }  // namespace vantrel

@@ -105,7 +105,11 @@ TEST_F(Help, EscapeClosesIt) {
 }
 
 TEST_F(Help, IsAResizableWindowInTheMiddle) {
+  frame().SetSize(wxRect(31, 17, 1203, 851));
   HelpDialog dialog(&frame());
+  // (1203 - 925) / 2 = 139 beside it, (851 - 700) / 2 = 75.5 above it.
+  EXPECT_EQ(dialog.GetPosition().x, 31 + 139);
+  EXPECT_NEAR(dialog.GetPosition().y, 17 + 75, 1);
   EXPECT_EQ(dialog.GetTitle(), "Vantrel v1.5 Help");
   EXPECT_EQ(dialog.GetSize(), wxSize(925, 700));
   EXPECT_TRUE(dialog.HasFlag(wxRESIZE_BORDER));
