@@ -7,6 +7,7 @@
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
+#include <wx/textwrapper.h>
 
 #include <algorithm>
 #include <optional>
@@ -58,6 +59,22 @@ std::optional<int> ScrollTarget(int key, int position, int pageSteps, int end) {
       return {};
   }
 }
+
+// A static text that wraps itself is measured twice, and a long one takes its time.
+class LineBreaks : public wxTextWrapper {
+ public:
+  static wxString In(wxWindow& window, const wxString& text, int width) {
+    LineBreaks breaks;
+    breaks.Wrap(&window, text, width);
+    return breaks.wrapped_;
+  }
+
+ private:
+  void OnOutputLine(const wxString& line) override { wrapped_ += line; }
+  void OnNewLine() override { wrapped_ += '\n'; }
+
+  wxString wrapped_;
+};
 
 }  // namespace
 
@@ -118,8 +135,7 @@ void HelpDialog::addTopic(wxSizer& column, const HelpTopic& topic) {
 }
 
 void HelpDialog::addBody(wxSizer& column, const std::string& text) {
-  wxStaticText* const body = newText(text);
-  body->Wrap(kWrapWidth);
+  auto* body = new wxStaticText(page_, wxID_ANY, LineBreaks::In(*page_, ToWx(text), kWrapWidth));
   column.Add(body, 0, wxLEFT | wxRIGHT | wxBOTTOM, kBorder);
 }
 
