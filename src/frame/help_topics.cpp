@@ -31,7 +31,7 @@ and TRIX HO C-Track, Marklin HO K-Track, and Marklin Z Track.
 The window has three parts. On the left is the palette, with everything you can lay: track, saved
 blocks, scenery and signals. In the middle is the canvas, your plan seen from above. On the right
 you see what is selected, change it, and read what your plan needs. The line at the bottom shows
-hints, the number of pieces, and the place the pointer is at.
+hints, the number of pieces, and where the pointer is.
 
 Try things freely: Ctrl+Z takes back nearly everything, one step at a time, and Ctrl+Y brings it
 back.
@@ -101,8 +101,8 @@ Ctrl+A selects all track and scenery.
 Shift+click selects a chain: with one piece selected, Shift+click another, and all the pieces on
 the shortest way between the two are selected.
 
-Ctrl+click adds a piece to the selection or takes it out. A click and a Ctrl+click give you the
-pair of pieces that Autofill Gap needs.
+Ctrl+click adds a piece to the selection or takes it out; for scenery it is Shift+click. A click
+and a Ctrl+click give you the pair of pieces that Autofill Gap needs.
 
 Rubber band: drag over empty canvas. Track is taken when the frame touches its centre line,
 scenery when its middle lies inside.
@@ -113,8 +113,8 @@ Escape, or a click on empty canvas, deselects. Del deletes what is selected.
 constexpr std::string_view kAutofill = R"text(
 When a straight gap is left between two ends of track, the program finds the pieces that fill it.
 
-Click the one piece, Ctrl+click the other, then right-click one of them and choose Autofill Gap...
-The context menu shows 'Autofill Gap...' only when exactly two pieces are selected.
+Click one piece, Ctrl+click the other, then right-click one of them and choose Autofill Gap... The
+context menu shows 'Autofill Gap...' only when exactly two pieces are selected.
 
 Up to twelve ways to fill the gap are listed, those with the fewest pieces first, each with its
 total length. Choose one and press Place: the pieces are laid and joined at both ends, at the
@@ -135,28 +135,29 @@ remove its file.
 
 To save one, select the pieces and choose File, Save as Library Block... The block is written into
 the folder "library" beside the program, into the folder of the track system, with the ending
-.xml. The page lists the files that end in .vtl: rename the new file so, and it appears the next
-time you choose the system.
+.xml. The page lists the files that end in .vtl: rename the new file so, choose another track
+system and come back, and it is there.
 )text";
 
 constexpr std::string_view kMoving = R"text(
 Press on a piece and drag it. If it belongs to a selection, the whole selection moves as one
-block. Connected pieces move together when all their neighbours are also selected. Joins between
+block. Connected pieces move together when all their neighbours are also selected. Joints between
 the selection and the rest of the track come apart.
 
 When an open end of what you move comes within 25 mm of another open end, a yellow spot marks it.
 Let go there and the block snaps on, turns to fit, and every other end that now meets one is
-joined as well: that is how rings close. With View, Snap off nothing snaps.
+joined as well: that is how rings close. While Snap in the View menu is off, nothing snaps.
 
 To add track to track: double-click a piece on the canvas, and one more of its kind is joined to
-its free end. Double-click a part in the palette, and it is joined to the piece selected last.
+its free end. Double-click a part in the palette, and it is joined to the selected piece, of
+several to the one laid last.
 
 To copy: right-click a selected piece and choose Copy, then right-click empty canvas and choose
 Paste, as often as you like; the copy lands where you clicked. A left click on empty canvas
 forgets what was copied.
 
-The program asks before it moves or deletes track on a grade. A helix moves only as a whole, and
-track in a tunnel once the tunnel is removed.
+The program asks before it deletes track on a grade, and before it moves some until you have said
+Yes once. A helix moves only as a whole, and track in a tunnel only once the tunnel is removed.
 )text";
 
 constexpr std::string_view kPalette = R"text(
@@ -164,9 +165,10 @@ Press on a part, pull it onto the canvas and let go: it hangs at the pointer unt
 set it down. On the way, scroll the mouse wheel to rotate it in 30 degree steps (15 degree with
 Shift) before dropping. R and the right button turn it by 30 degrees too. Escape gives it up.
 
-Near an open end a yellow spot shows where the piece will join, and a click lays it there, at any
-angle it came with. Ends of different track systems don't join; only the adapter 24922 leads from
-C-Track to K-Track. A turntable brings its first six spokes, a ramp sold in pairs its partner.
+Near an open end a yellow spot shows where the piece will join, and a click lays it there,
+whatever its angle was. Ends of different track systems don't snap together; only the adapter
+24922 leads from C-Track to K-Track. A turntable brings its first six spokes, a ramp sold in pairs
+its partner.
 
 Scenery and signals: double-click or drag a line of the list, click to set it down. R and the
 right button turn it by 15 degrees. Drag it to move it, double-click it to change its size; a
@@ -177,27 +179,27 @@ scenery.
 constexpr std::string_view kRotating = R"text(
 Select what you want to turn.
 
-Alt+drag turns it freely and shows the angle; it stops for a moment at 0, 90, 180 and 270 degrees.
-The whole selection rotates as a rigid block around its centroid; each piece's heading spins in
-place and its position orbits the centroid.
+Alt+drag turns it freely and shows the angle, which catches at 0, 90, 180 and 270 degrees. The
+whole selection rotates as a rigid block around its centroid; each piece's heading spins in place
+and its position orbits the centroid.
 
 Ctrl+wheel turns it about its middle, 15 degrees at each step, or 5 with Shift.
 
 Alt+right-click turns it about its first piece: 30 degrees for track, platforms and signals, 15
 for other scenery.
 
-Turning makes no joins and breaks none. To join what you have turned, drag it near an open end.
+Turning makes no joints and breaks none. To join what you have turned, drag it near an open end.
 )text";
 
 constexpr std::string_view kGrades = R"text(
 Select the piece where the climb begins. On the right, under Set Grade, choose UP or DOWN, set the
 degrees, and press Start Grade. From then on each piece you join to that one, and to those that
-follow, climbs on, and the bottom line shows the grade in force. Press End Grade when the track
-should run level again.
+follow, climbs on, and the bottom line shows the grade in force. Where the track should run level
+again, select the piece and press End Grade: that piece is level, and so is what you join to it.
 
 One degree is a rise of about 17 mm on each metre. Most trains manage 2 degrees (3.5 %). The
-program offers up to 6 and warns in red above that. Arch and truss bridges automatically end the
-grade chain and sit flat. Ramps carry the climb on.
+program offers up to 6 and warns in red beside a steeper piece. Arch and truss bridges
+automatically end the grade chain and sit flat. Ramps carry the climb on.
 
 You can also type a height for the selected piece and press Enter. To carry it on, select the
 piece that follows and press Recalc: it takes its height from the piece before, and the level
@@ -235,9 +237,9 @@ Drag an area to move it. Double-click it to give it a name, a color, an opacity 
 its level; with a height it stands up in the 3D view. Right-click it to copy it.
 
 Tunnels: select a chain of joined pieces, by a click on its one end and a Shift+click on the
-other, and press the Tunnel button. A portal is set at each end. The track inside can't be changed
-until you select the same pieces again and press Remove Tunnel. When a polygon contains a tunnel,
-its 3D rendering switches to wireframe so the tunnel remains visible.
+other, and press the Tunnel button. A portal is set at each end. The track inside can't be moved
+or deleted until you select the same pieces again and press Remove Tunnel. When a polygon contains
+a tunnel, its 3D rendering switches to wireframe so the tunnel remains visible.
 )text";
 
 constexpr std::string_view kFiles = R"text(
@@ -268,7 +270,7 @@ Levels button opens their list.
 Add Level adds one. Double-click a level to change its name, its height off the ground, and a
 color for its track. Untick a level to hide it: what lies on it is neither shown nor clicked. A
 click on a level makes it the active one, shown in bold. Remove Level deletes the level with all
-its track and scenery; that is no step that Undo takes back, so save before.
+its track and scenery; Undo has no step for that, so save first.
 
 When you drop a new piece on empty canvas it lands on the highest currently visible level; when
 you join to an existing piece, the new piece inherits that piece's level. To move track to another
@@ -310,8 +312,8 @@ see the color at once. Default takes the color away again.
 A whole level can have a color too: press Levels and double-click the level. A piece's own color
 wins over that of its level.
 
-Track that stands above the table is drawn by its height, from yellow to brown, whatever color it
-was given.
+Track that stands above the table is drawn by its height, from gray through yellow to brown,
+whatever color it was given.
 )text";
 
 constexpr std::string_view kExperience = R"text(

@@ -127,6 +127,20 @@ TEST(HelpTopics, TellHowToPrint) {
     EXPECT_NE(body.find(words), std::string::npos) << words;
 }
 
+// One word for one thing: a joint, a turnout, a grade. "Switches" is the name of a palette section.
+TEST(HelpTopics, UseOneWordForOneThing) {
+  const std::string manual = WholeManual();
+  for (const char* other : {"Joins ", "no joins", "connection", "switch ", "slope", "incline",
+                            "gradient", "colour", "grey"})
+    EXPECT_EQ(manual.find(other), std::string::npos) << other;
+}
+
+TEST(HelpTopics, TellWhatEndGradeDoesToTheSelectedPiece) {
+  EXPECT_NE(WholeBody(Topic("Elevation and Grades"))
+                .find("select the piece and press End Grade: that piece is level"),
+            std::string::npos);
+}
+
 TEST(HelpTopics, AreSetInParagraphsThatLeaveLineBreaksToTheWindow) {
   for (const HelpTopic& topic : HelpTopics())
     for (const std::string& text : {topic.text, topic.linkLead, topic.textBehind}) {
