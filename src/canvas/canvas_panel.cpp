@@ -11,6 +11,7 @@
 
 #include <iterator>
 
+#include "app/services/left_presses.h"
 #include "canvas/autofill_dialog.h"
 #include "canvas/event_order.h"
 #include "canvas/gestures/deleting.h"
@@ -91,17 +92,19 @@ CanvasPanel::~CanvasPanel() {
   if (HasCapture()) ReleaseMouse();
 }
 
-void CanvasPanel::bindPointer(const wxEventTypeTag<wxMouseEvent>& type, PointerList list) {
-  Bind(type, [this, list](wxMouseEvent& event) {
+std::function<void(wxMouseEvent&)> CanvasPanel::pointerHandler(PointerList list) {
+  return [this, list](wxMouseEvent& event) {
     CanvasContext canvas = context();
     if (!list(canvas, pointerEvent(event))) event.Skip();
-  });
+  };
+}
+
+void CanvasPanel::bindPointer(const wxEventTypeTag<wxMouseEvent>& type, PointerList list) {
+  Bind(type, pointerHandler(list));
 }
 
 void CanvasPanel::bindEvents() {
-  bindPointer(wxEVT_LEFT_DOWN, onLeftPress);
   bindPointer(wxEVT_LEFT_UP, onLeftRelease);
-  bindPointer(wxEVT_LEFT_DCLICK, onDoubleClick);
   bindPointer(wxEVT_MOTION, onMotion);
   // A pointer that jumps into the window raises no motion before the next one.
   bindPointer(wxEVT_ENTER_WINDOW, onMotion);
@@ -113,6 +116,7 @@ void CanvasPanel::bindEvents() {
   // press like any other: each one turns the dragged piece by a step.
   bindPointer(wxEVT_MIDDLE_DCLICK, onMiddlePress);
   bindPointer(wxEVT_RIGHT_DCLICK, onRightPress);
+  BindLeftPresses(*this, pointerHandler(onLeftPress), pointerHandler(onDoubleClick));
   Bind(wxEVT_MOUSEWHEEL, &CanvasPanel::onWheelEvent, this);
   Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) {
     CanvasContext canvas = context();

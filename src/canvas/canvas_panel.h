@@ -5,6 +5,7 @@
 #include <wx/panel.h>
 #include <wx/timer.h>
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,6 +58,7 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
  private:
   using PointerList = bool (*)(CanvasContext&, const PointerEvent&);
 
+  std::function<void(wxMouseEvent&)> pointerHandler(PointerList list);
   void bindPointer(const wxEventTypeTag<wxMouseEvent>& type, PointerList list);
   void bindEvents();
   void onPaint(wxPaintEvent& event);

@@ -49,8 +49,7 @@ canvas and let go: it hangs at the pointer. Click where it should lie, for this 
 mm, 300 mm; the bottom right corner tells where the pointer is. The piece is selected now, and a
 double click on a part in the palette adds that part to its free end and selects the new piece in
 turn. So double-click 24188 once, the curve 24130 six times, 24188 twice, and 24130 six times
-more. Wait for each piece to show before you double-click again: two double clicks in quick
-succession count as one.
+more.
 
 3. Close the ring. A dot at an end is green where two pieces are joined and orange where the end
 is open, and where the ring closes it is still orange. Drag the last curve a little way off, just

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "app/services/left_presses.h"
 #include "catalog/track_catalog.h"
 #include "palette/grid_painting.h"
 #include "palette/part_icon.h"
@@ -23,11 +24,12 @@ TrackIconGrid::TrackIconGrid(wxWindow* parent, TrackIconGridListener& listener)
   SetScrollRate(0, kScrollStep);
   Bind(wxEVT_PAINT, &TrackIconGrid::onPaint, this);
   Bind(wxEVT_SIZE, &TrackIconGrid::onSize, this);
-  Bind(wxEVT_LEFT_DOWN, &TrackIconGrid::onLeftDown, this);
   Bind(wxEVT_LEFT_UP, &TrackIconGrid::onLeftUp, this);
-  Bind(wxEVT_LEFT_DCLICK, &TrackIconGrid::onLeftDoubleClick, this);
   Bind(wxEVT_MOTION, &TrackIconGrid::onMotion, this);
   Bind(wxEVT_LEAVE_WINDOW, &TrackIconGrid::onLeave, this);
+  BindLeftPresses(
+      *this, [this](wxMouseEvent& event) { onLeftDown(event); },
+      [this](wxMouseEvent& event) { onLeftDoubleClick(event); });
   layOut();
 }
 

@@ -24,6 +24,54 @@ half_circle() {
   done
 }
 
+# double_clicks N SECONDS: at the pointer, each beginning so long after the one before. One run of
+# xdotool, which takes the 120 ms of its two clicks.
+double_clicks() {
+  local clicks=() pause
+  pause=$(awk -v period="$2" 'BEGIN { print period - 0.12 }')
+  for _ in $(seq "$1"); do clicks+=(click --repeat 2 --delay 60 1 sleep "$pause"); done
+  xdotool "${clicks[@]}"
+  settle
+}
+
+# row_of_seven SECONDS: one straight from the palette and six double clicks there, at that pace.
+row_of_seven() {
+  local plan="$store/Row $1.vtl"
+  # The 24188 is the sixth straight. Canvas (60, 300) is (0, 600).
+  # shellcheck disable=SC2046
+  drag_from $(cell "" 5) 60 300
+  drop
+  # shellcheck disable=SC2046
+  move $(cell "" 5)
+  double_clicks 6 "$1"
+  save_as "Row $1" || return 1
+  expect "pieces, $1 s apart" 7 "$(piece_count "$plan")" || return 1
+  # Six joins, and each is written at both of its ends.
+  expect "slots joined, $1 s apart" 12 "$(grep -c '<joint' "$plan")" || return 1
+  # 6 * 188.3 = 1129.8
+  expect "end of the row, $1 s apart" 1129.8000 "$(attribute x '<piece id="7"' "$plan")"
+}
+
+test_quick_double_clicks_in_the_palette_add_a_piece_each() {
+  find_palette || return 1
+  row_of_seven 0.6 || return 1
+  key ctrl+n
+  row_of_seven 0.3
+}
+
+test_two_quick_double_clicks_on_a_piece_extend_both_its_ends() {
+  find_palette || return 1
+  # shellcheck disable=SC2046
+  drag_from $(cell "" 5) 300 300
+  drop
+  at 694 600
+  double_clicks 2 0.6
+  save_as Both || return 1
+  # At 600 + 188.3, and at 600 - 188.3.
+  expect "pieces" '600.0000 788.3000 411.7000 ' \
+    "$(attribute x '<piece ' "$store/Both.vtl" 1,3 | tr '\n' ' ')"
+}
+
 test_an_oval_is_built_by_double_clicks_and_closed_by_a_drag() {
   local plan="$store/Oval.vtl"
   find_palette || return 1

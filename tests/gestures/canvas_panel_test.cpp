@@ -168,6 +168,24 @@ TEST_F(CanvasWindow, WhatHangsAtThePointerFollowsAJumpIntoTheWindow) {
   EXPECT_EQ(canvas->state().paletteDrag.at, (Vec2{250.0, 200.0}));
 }
 
+// The presses of two double clicks as the toolkit tells them: it takes the third for a triple
+// click, and leaves the fourth alone. The straight has two ends to go on from.
+TEST_F(CanvasWindow, TwoDoubleClicksInQuickSuccessionExtendThePieceTwice) {
+  lay("24188", {250.0, 200.0, 0.0});
+  long timeMs = 10000;
+  for (const auto& type : {wxEVT_LEFT_DOWN, wxEVT_LEFT_DCLICK, wxEVT_LEFT_DOWN, wxEVT_LEFT_DOWN}) {
+    wxMouseEvent event(type);
+    event.SetEventObject(canvas);
+    event.SetPosition({190, 140});
+    event.SetLeftDown(true);
+    event.SetTimestamp(timeMs);
+    canvas->HandleWindowEvent(event);
+    mouse(wxEVT_LEFT_UP, 190, 140);
+    timeMs += 50;
+  }
+  EXPECT_EQ(workspace.document.pieces.size(), 3u);
+}
+
 TEST_F(CanvasWindow, QuickRightPressesTurnAStepEach) {
   canvas->beginPieceDrag("24188");
   mouse(wxEVT_RIGHT_DOWN, 100, 100);

@@ -20,8 +20,10 @@
 namespace vantrel {
 
 // A mouse event at client pixels of a window, handled as if it came from the toolkit.
-inline bool SendMouse(wxWindow& window, wxEventType type, wxPoint at, bool leftDown = false) {
+inline bool SendMouse(wxWindow& window, wxEventType type, wxPoint at, bool leftDown = false,
+                      long timeMs = 0) {
   wxMouseEvent event(type);
+  event.SetTimestamp(timeMs);
   event.SetEventObject(&window);
   event.SetPosition(at);
   event.SetLeftDown(leftDown);

@@ -253,6 +253,21 @@ TEST_F(PaletteTest, ADoubleClickOnAPartPlacesIt) {
   EXPECT_EQ(canvas.calls, (Texts{"double click 24188"}));
 }
 
+// The presses of three double clicks as the toolkit tells them: it takes the third for a triple
+// click, and counts anew with the fourth.
+TEST_F(PaletteTest, DoubleClicksInQuickSuccessionPlaceAPieceEach) {
+  const wxPoint at = pointOnRow(rowOfKey("24188"));
+  long timeMs = 10000;
+  for (const auto& type : {wxEVT_LEFT_DOWN, wxEVT_LEFT_DCLICK, wxEVT_LEFT_DOWN, wxEVT_LEFT_DOWN,
+                           wxEVT_LEFT_DCLICK, wxEVT_LEFT_DOWN}) {
+    SendMouse(*grid, type, at, true, timeMs);
+    SendMouse(*grid, wxEVT_LEFT_UP, at, false, timeMs + 20);
+    timeMs += 50;
+  }
+  EXPECT_EQ(canvas.calls,
+            (Texts{"double click 24188", "double click 24188", "double click 24188"}));
+}
+
 TEST_F(PaletteTest, ADoubleClickOnAGridRowDoesNotAlsoStartADragWhileTheButtonStaysDown) {
   const wxPoint at = pointOnRow(rowOfKey("24188"));
   SendMouse(*grid, wxEVT_LEFT_DOWN, at, true);
