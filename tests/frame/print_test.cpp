@@ -172,6 +172,46 @@ TEST_F(Printing, ManySheetsAreAskedAbout) {
   EXPECT_EQ(printer_.prints, 0);
 }
 
+TEST_F(Printing, UsesTheOptionsThatTheDialogHasJustGot) {
+  plan().baseboard = {{0, 0}, {10000, 0}, {10000, 4000}, {0, 4000}};
+  int pages = 0;
+  printer_.run = [&pages](wxPrintout& printout) {
+    printout.SetPageSizePixels(3300, 2550);
+    printout.OnPreparePrinting();
+    int low = 0, from = 0, to = 0;
+    printout.GetPageInfo(&low, &pages, &from, &to);
+  };
+  ModalScript script;
+  script.shown("Print Options", ChooseFullSize)
+      .box("Print", "At this scale the layout takes about 819 sheets of paper.\n\nPrint it?",
+           kCautiousBox, wxID_YES);
+  command(5010);
+  EXPECT_EQ(pages, 819);
+  EXPECT_EQ(frame().printOptions().mode, kActualScale);
+  EXPECT_EQ(frame().printOptions().scaleN, 1);
+}
+
+// The view at scale 1 has its origin at pixel (60, 60).
+TEST_F(Printing, AndItsPreviewEndADragFirst) {
+  for (const int id : {5010, 5013}) {
+    plan().pieces.clear();
+    addPiece();
+    showFrame();
+    frame().canvas().resetViewUnitScale();
+    dragOnCanvas({160, 60}, {160, 260});
+    ASSERT_TRUE(frame().canvas().HasCapture());
+    ModalScript script;
+    if (id == 5010)
+      script.dialog("Print Options", wxID_CANCEL,
+                    [this](wxDialog&) { EXPECT_FALSE(frame().canvas().HasCapture()); });
+    command(id);
+    EXPECT_FALSE(frame().canvas().HasCapture()) << id;
+    mouseOnCanvas(wxEVT_MOTION, {160, 360}, true);
+    EXPECT_EQ(plan().pieces[0].y, 200.0) << id;
+    mouseOnCanvas(wxEVT_LEFT_UP, {160, 360}, false);
+  }
+}
+
 TEST_F(Printing, AnAbsurdNumberOfSheetsIsRefused) {
   plan().baseboard = {{0, 0}, {1e9, 0}, {1e9, 1e9}};
   ModalScript script;
@@ -199,6 +239,9 @@ TEST_F(Printing, APreviewOpensWithoutADialogAndKeepsTheFrameFromEditing) {
   wxWindow* window = previewWindow();
   ASSERT_NE(window, nullptr);
   EXPECT_EQ(window->GetSize(), wxSize(900, 700));
+  const wxRect around = frame().GetScreenRect();
+  EXPECT_NEAR(window->GetPosition().x + 450, around.x + around.width / 2, 2);
+  EXPECT_NEAR(window->GetPosition().y + 350, around.y + around.height / 2, 2);
   EXPECT_FALSE(frame().IsEnabled());
   window->Close();
   wxTheApp->Yield();

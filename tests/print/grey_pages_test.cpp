@@ -152,6 +152,24 @@ TEST_F(PrintedLayout, InGreyIsOneBitmapOfAnA4PageAtThreeHundredDotsAnInch) {
   EXPECT_EQ(dc_.count(DrawOp::polygon), 0U);
 }
 
+TEST_F(PrintedLayout, InGreyIsWhiteBeyondASeam) {
+  options_.grayscale = 1;
+  atOneToFive();
+  wxBitmap bitmap(660, 510, 24);
+  wxMemoryDC paper(bitmap);
+  paper.SetBackground(*wxBLACK_BRUSH);
+  paper.Clear();
+  LayoutPrintout out(plan_, options_);
+  setUp(out, 660, 510, 60);
+  out.SetDC(&paper);
+  out.OnPreparePrinting();
+  EXPECT_TRUE(out.OnPrintPage(1));
+  EXPECT_TRUE(out.HasPage(2));
+  wxColour corner;
+  paper.GetPixel(655, 505, &corner);
+  EXPECT_EQ(corner, *wxWHITE);
+}
+
 TEST_F(PrintedLayout, InGreyOnALargeFinePageNeedsNoBitmap) {
   options_.grayscale = 1;
   LayoutPrintout out(plan_, options_);

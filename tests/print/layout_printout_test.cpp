@@ -1,5 +1,6 @@
 #include "print/layout_printout.h"
 
+#include <wx/dcmemory.h>
 #include <wx/print.h>
 
 #include <chrono>
@@ -95,13 +96,14 @@ TEST_F(PrintedLayout, PreparedTwiceStillKnowsHowThePlanWas) {
 TEST_F(PrintedLayout, InReverseOrderPrintsEveryPageWithItsOwnLevels) {
   atOneToFive();
   printout().OnPreparePrinting();
-  std::size_t beds = 0;
-  for (const int page : {4, 3, 2, 1}) {
-    dc_.forget();
-    EXPECT_TRUE(printout().OnPrintPage(page));
-    if (page == 1) beds = dc_.texts("24188").size();
-  }
-  EXPECT_EQ(beds, 1U);  // the one on the active level
+  for (const int page : {4, 3, 2}) EXPECT_TRUE(printout().OnPrintPage(page));
+  dc_.forget();
+  EXPECT_TRUE(printout().OnPrintPage(1));
+  // The one on the active level, at 100 mm: 102 + 100 * 2.36 dots below the edge. The other one
+  // would stand at 1519.
+  const std::vector<DrawCall> numbers = dc_.texts("24188");
+  ASSERT_EQ(numbers.size(), 1U);
+  EXPECT_NEAR(numbers[0].points[0].y, 338, 60);
   printout().OnEndPrinting();
   expectPlanAsItWas();
 }
@@ -202,8 +204,6 @@ TEST_F(PrintedLayout, GridAndBaseboardAreDrawnOnlyWhenIncluded) {
   };
   const Rgba gridPen{220, 220, 215, 255};
   const Rgba boardPen{120, 90, 50, 255};
-  options_.mode = kActualScale;  // at fit the grid would be too fine to be drawn
-  options_.scaleN = 4;
   printout().OnPreparePrinting();
   printout().OnPrintPage(1);
   EXPECT_EQ(countOfPen(gridPen), 0U);
@@ -245,6 +245,63 @@ TEST_F(PrintedLayout, LinesAndTextsAreAsLargeOnPaperAtEveryResolution) {
     EXPECT_EQ(call.pen.width, 25);
   }
   EXPECT_TRUE(found);
+}
+
+TEST_F(PrintedLayout, ATextIsAsHighOnPaperAsOnThisScreenAtEveryResolution) {
+  // 100 mm fill a usable width of 92 percent of 11 inches: 10.12 inches, 971.5 pixels of 1 / 96
+  // inch. A label is 11 points large for each pixel of a mm: 9.715 * 11 = 106.
+  plan_.baseboard = {{0, 0}, {100, 0}, {100, 50}, {0, 50}};
+  plan_.pieces.clear();
+  plan_.labels.resize(1);
+  plan_.labels[0].text = "Yard";
+  plan_.labels[0].x = 10;
+  plan_.labels[0].y = 10;
+  wxBitmap bitmap(1, 1);
+  wxMemoryDC screen(bitmap);
+  const wxFont font(wxFontInfo(106).Bold());
+  wxCoord width = 0;
+  wxCoord height = 0;
+  screen.GetTextExtent("Yard", &width, &height, nullptr, nullptr, &font);
+  for (const int dpi : {72, 300, 1200}) {
+    RecordingDC paper({11 * dpi, 17 * dpi / 2}, dpi);
+    LayoutPrintout out(plan_, options_);
+    out.SetPageSizePixels(11 * dpi, 17 * dpi / 2);
+    out.SetPPIPrinter(dpi, dpi);
+    out.SetDC(&paper);
+    out.OnPreparePrinting();
+    out.OnPrintPage(1);
+    const std::vector<DrawCall> texts = paper.texts("Yard");
+    ASSERT_EQ(texts.size(), 1U) << dpi;
+    // A recorded text of 48 points is an inch high, which 96 pixels are.
+    EXPECT_NEAR(texts[0].font.pointSize, height / 2.0, 1.0) << dpi;
+  }
+}
+
+TEST_F(PrintedLayout, DrawsNothingBeyondASeam) {
+  atOneToFive();
+  printout().OnPreparePrinting();
+  const auto clipOf = [this](int page) {
+    dc_.forget();
+    printout().OnPrintPage(page);
+    const std::vector<DrawCall> clips = dc_.callsOf(DrawOp::clip);
+    return clips.empty() ? wxRect() : clips[0].box;
+  };
+  // Margins of 132 and 102 dots.
+  EXPECT_EQ(clipOf(1), wxRect(0, 0, 3168, 2448));
+  EXPECT_EQ(clipOf(4), wxRect(132, 102, 3168, 2448));
+}
+
+TEST_F(PrintedLayout, IsShrunkToTheDeviceOfAPreview) {
+  wxBitmap bitmap(kLetterWidth / 10, kLetterHeight / 10);
+  wxMemoryDC preview(bitmap);
+  printout().SetDC(&preview);
+  printout().OnPreparePrinting();
+  EXPECT_TRUE(printout().OnPrintPage(1));
+  double across = 0.0;
+  double down = 0.0;
+  preview.GetUserScale(&across, &down);
+  EXPECT_NEAR(across, 0.1, 1e-6);
+  EXPECT_NEAR(down, 0.1, 1e-6);
 }
 
 TEST_F(PrintedLayout, OfAbsurdSizeIsNeitherSlowNorUndefined) {
