@@ -64,15 +64,16 @@ first.
 5. Lay the siding on a grade. Click the turnout and double-click the curve 24224: it goes to the
 branch, the one open end left. On the right, under Set Grade, leave UP chosen, set 2 deg, and
 press Start Grade. Double-click 24188 three times, then the bumper 24977 in the section Other:
-each new piece climbs on from the one before. End Grade stops the climb.
+each new piece climbs on from the one before. End Grade stops the climb; the bumper, selected still,
+lies level.
 
 6. Give the plan a table and look at it. Choose Layout, Layout Shape..., and Apply the rectangle
 it offers. Ctrl+0 brings everything into view, and the 3D View button shows your railway as a
 model.
 
 7. Save and print. Ctrl+S asks for a name the first time. File, Print Preview... shows the page.
-File, Print... (Ctrl+P) asks how: keep Fit to page, press OK, and choose your printer. "Files
-(.vtl)" below tells more about both.
+File, Print... (Ctrl+P) asks how: keep Fit to page, press OK, and choose your printer, or a file
+if the list offers one. "Files (.vtl)" below tells more about both.
 )text";
 
 constexpr std::string_view kNavigation = R"text(
@@ -127,10 +128,11 @@ be laid by hand.
 constexpr std::string_view kLibrary = R"text(
 A block is a part of a plan kept for use in others: a station throat, a loop, a yard.
 
-The palette's Library page lists the blocks of the chosen track system. Double-click one, and it
-is placed with its upper left corner at x 0, y 0, and the view shows the whole plan. Select it
-with a rubber band and drag it to where it belongs. Right-click a block and choose Delete... to
-remove its file.
+The palette's Library page lists the blocks of the chosen track system; a few to try come with the
+program. Double-click one, and it is placed with its upper left corner at x 0, y 0, and the view
+shows all your track. Select it with a rubber band and drag it to where it belongs. A block comes
+back flat, without the heights and grades it had. Right-click a block and choose Delete... to remove
+its file.
 
 To save one, select the pieces and choose File, Save as Library Block... The block is written into
 the folder "library" beside the program, into the folder of the track system, with the ending
@@ -194,7 +196,8 @@ constexpr std::string_view kGrades = R"text(
 Select the piece where the climb begins. On the right, under Set Grade, choose UP or DOWN, set the
 degrees, and press Start Grade. From then on each piece you join to that one, and to those that
 follow, climbs on, and the bottom line shows the grade in force. Where the track should run level
-again, select the piece and press End Grade: that piece is level, and so is what you join to it.
+again, select the piece and press End Grade: that piece is level, and so is what you join to it. A
+right-click doesn't end a grade.
 
 One degree is a rise of about 17 mm on each metre. Most trains manage 2 degrees (3.5 %). The
 program offers up to 6 and warns in red beside a steeper piece. Arch and truss bridges
@@ -218,13 +221,15 @@ zooms. R brings the first view back and keeps the zoom. Levels that are hidden d
 )text";
 
 constexpr std::string_view kLayoutShape = R"text(
-Layout, Layout Shape... draws the table your railway stands on. Choose a rectangle, an L, a U or a
-T and type its measures, or type the corners of any other outline, one "x,y" in each line. The
-upper left corner of the four shapes is at x 0, y 0. Press Apply.
+Layout, Layout Shape... draws the table your railway stands on. In the list of shapes choose a
+rectangle, an L, a U or a T and type its measures, or choose Custom polygon and type the corners of
+any other outline, one "x,y" in each line. The upper left corner of the four shapes is at x 0, y 0.
+Press Apply.
 
-Free-form lets you draw the table yourself: after Apply click the corners on the canvas. Click the
-first corner again, or press Enter, to close the outline. Backspace takes the last corner back,
-and Escape gives up. Clear removes the table.
+Free-form, in the same list, lets you draw the table yourself: after Apply click the corners on the
+canvas. Click the first corner again, or press Enter, to close the outline. Backspace takes the last
+corner back, and Escape gives up. Clear, the last in the list, removes the table when you press
+Apply. Undo doesn't bring a table back.
 )text";
 
 constexpr std::string_view kPolygons = R"text(
@@ -233,7 +238,8 @@ other, and click the first one again, or press Enter, to close. Backspace takes 
 back, and Escape gives up.
 
 Drag an area to move it. Double-click it to give it a name, a color, an opacity and a height above
-its level; with a height it stands up in the 3D view. Right-click it to copy it.
+its level; with a height it stands up in the 3D view. Right-click it to copy it. Click it and press
+Del to remove it.
 
 Tunnels: select a chain of joined pieces, by a click on its one end and a Shift+click on the
 other, and press the Tunnel button. A portal is set at each end. The track inside can't be moved
@@ -251,7 +257,7 @@ for good. New Layout (Ctrl+N) and Close Layout (Ctrl+W) both begin anew. When th
 you haven't saved, the program asks first; a star in the title bar tells that there are some.
 
 File, Import Layout... takes a plan from another folder into yours, and File, Export Layout...
-copies one out, to send it to a friend or to keep it safe.
+copies one out as it was last saved, to send it to a friend or to keep it safe.
 
 Printing: File, Page Setup... chooses paper and orientation. File, Print... (Ctrl+P) opens Print
 Options. Fit to page puts the plan on one sheet. Actual scale 1 : N prints it N times smaller than
@@ -267,9 +273,11 @@ Levels are the decks of your railway: a hidden yard, the main line, a branch in 
 Levels button opens their list.
 
 Add Level adds one. Double-click a level to change its name, its height off the ground, and a
-color for its track. Untick a level to hide it: what lies on it is neither shown nor clicked. A
-click on a level makes it the active one, shown in bold. Remove Level deletes the level with all
-its track and scenery; Undo has no step for that, so save first.
+color for its track. A new level has height 0, so give it one of its own: of levels at the same
+height the first in the list takes your new pieces. Untick a level to hide it: what lies on it is
+neither shown nor clicked. A click on a level makes it the active one, shown in bold: the one that
+Print Options prints as Active level only. Remove Level deletes the level with all its track and
+scenery; Undo has no step for that, so save first.
 
 When you drop a new piece on empty canvas it lands on the highest currently visible level; when
 you join to an existing piece, the new piece inherits that piece's level. To move track to another
@@ -309,7 +317,8 @@ Select track, choose a color on the right, and press Apply. The selection is lif
 see the color at once. Default takes the color away again.
 
 A whole level can have a color too: press Levels and double-click the level. A piece's own color
-wins over that of its level.
+wins over that of its level. A level's color comes back without its red when the plan is opened
+again; a piece's own color stays as it was.
 
 Track that stands above the table is drawn by its height, from gray through yellow to brown,
 whatever color it was given.

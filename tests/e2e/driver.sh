@@ -111,7 +111,7 @@ scroll_palette_to() {
   [ "$step" -gt 0 ] || { problem="the palette doesn't scroll"; return 1; }
   clicks=$((($2 - palette_y - 300) / step + 1))
   [ "$clicks" -lt 1 ] && clicks=1
-  for _ in $(seq 2 "$clicks"); do click 5; done
+  [ "$clicks" -gt 1 ] && xdotool click --repeat $((clicks - 1)) --delay 30 5
   settle
   point_x=$1
   point_y=$(($2 - clicks * step))

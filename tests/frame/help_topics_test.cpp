@@ -141,6 +141,30 @@ TEST(HelpTopics, TellWhatEndGradeDoesToTheSelectedPiece) {
             std::string::npos);
 }
 
+// What someone who follows the manual word for word would otherwise stumble over.
+TEST(HelpTopics, TellWhatTheWindowsThemselvesDoNotShow) {
+  const std::pair<const char*, std::vector<const char*>> stumbling[] = {
+      // The bumper is still selected when End Grade is pressed, and becomes level itself.
+      {"Getting Started", {"the bumper, selected still,", "a file if the list offers one"}},
+      // A choice that doesn't change tells the palette nothing.
+      {"Library",
+       {"come with the program", "shows all your track", "flat, without the heights and grades",
+        "choose another track system and come back"}},
+      // The bottom line itself speaks of a right-click.
+      {"Elevation and Grades", {"A right-click doesn't end a grade."}},
+      // All of these stand in the list of shapes; none is a button.
+      {"Layout Shape",
+       {"In the list of shapes", "Custom polygon", "Free-form, in the same list",
+        "Clear, the last in the list", "Undo doesn't bring a table back."}},
+      {"Polygon Shapes", {"Click it and press Del to remove it."}},
+      {"Levels", {"A new level has height 0", "prints as Active level only"}},
+      {"Coloring Track", {"A level's color comes back without its red"}}};
+  for (const auto& [heading, parts] : stumbling)
+    for (const char* words : parts)
+      EXPECT_NE(WholeBody(Topic(heading)).find(words), std::string::npos)
+          << heading << ": " << words;
+}
+
 TEST(HelpTopics, AreSetInParagraphsThatLeaveLineBreaksToTheWindow) {
   for (const HelpTopic& topic : HelpTopics())
     for (const std::string& text : {topic.text, topic.linkLead, topic.textBehind}) {
