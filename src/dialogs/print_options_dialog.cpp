@@ -43,7 +43,11 @@ PrintOptionsDialog::PrintOptionsDialog(wxWindow* parent, const PrintOptions& opt
       wxEVT_RADIOBOX, [this](wxCommandEvent&) { showMode(); }, kScalingBoxId);
   Bind(
       wxEVT_BUTTON, [this](wxCommandEvent&) { accept(); }, wxID_OK);
-  scaling_->SetFocus();
+  // A radio box that is given the focus keeps it from its buttons, and then no arrow key chooses.
+  Bind(wxEVT_INIT_DIALOG, [this](wxInitDialogEvent& event) {
+    event.Skip();
+    CallAfter([this] { scaling_->NavigateIn(); });
+  });
   Centre();
 }
 
