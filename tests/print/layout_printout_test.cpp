@@ -1,6 +1,8 @@
 #include "print/layout_printout.h"
 
+#include <wx/bitmap.h>
 #include <wx/dcmemory.h>
+#include <wx/font.h>
 #include <wx/print.h>
 
 #include <chrono>
@@ -228,23 +230,39 @@ TEST_F(PrintedLayout, AnEmptyLayoutPrintsOnePage) {
 }
 
 TEST_F(PrintedLayout, LinesAndTextsAreAsLargeOnPaperAtEveryResolution) {
+  // As high as the screen shows the board's plates, which are written in 11 points there.
+  wxBitmap bitmap(1, 1);
+  wxMemoryDC screen(bitmap);
+  screen.SetFont(wxFont(wxFontInfo(11).Family(wxFONTFAMILY_DEFAULT).Bold()));
+  const int heightOnScreen = screen.GetTextExtent("2400 mm").y;
+  struct Expected {
+    int dpi;
+    int penWidth;
+  };
   // 96 dots an inch are a screen's pixels. At 1,200 a pixel is 12.5 dots: the board's pen of 2
-  // pixels is 25 dots wide. The recorded texts measure 100 dots for 8 points at 1,200 dots an inch,
-  // as they would on any printer: the font keeps its points.
-  RecordingDC fine({13200, 10200}, 1200);
-  LayoutPrintout out(plan_, options_);
-  out.SetPageSizePixels(13200, 10200);
-  out.SetPPIPrinter(1200, 1200);
-  out.SetDC(&fine);
-  out.OnPreparePrinting();
-  out.OnPrintPage(1);
-  bool found = false;
-  for (const DrawCall& call : fine.calls()) {
-    if (call.pen.colour != Rgba{120, 90, 50, 255}) continue;
-    found = true;
-    EXPECT_EQ(call.pen.width, 25);
+  // pixels is 25 dots wide. At 600 a pixel is 6.25 dots, at 300 3.125: 12 and 6 whole dots.
+  for (const Expected& expected : {Expected{300, 6}, Expected{600, 12}, Expected{1200, 25}}) {
+    SCOPED_TRACE(expected.dpi);
+    const wxSize page(11 * expected.dpi, 17 * expected.dpi / 2);
+    RecordingDC dc(page, expected.dpi);
+    LayoutPrintout out(plan_, options_);
+    out.SetPageSizePixels(page.x, page.y);
+    out.SetPPIPrinter(expected.dpi, expected.dpi);
+    out.SetDC(&dc);
+    out.OnPreparePrinting();
+    out.OnPrintPage(1);
+    bool found = false;
+    for (const DrawCall& call : dc.calls()) {
+      if (call.pen.colour != Rgba{120, 90, 50, 255}) continue;
+      found = true;
+      EXPECT_EQ(call.pen.width, expected.penWidth);
+    }
+    EXPECT_TRUE(found);
+    const std::vector<DrawCall> plates = dc.texts("2400 mm");
+    ASSERT_EQ(plates.size(), 2U);  // above the board and below it
+    // The recorded texts are 2 pixels of a screen high for each point, at every resolution.
+    EXPECT_NEAR(2 * plates[0].font.pointSize, heightOnScreen, 2);
   }
-  EXPECT_TRUE(found);
 }
 
 TEST_F(PrintedLayout, ATextIsAsHighOnPaperAsOnThisScreenAtEveryResolution) {
