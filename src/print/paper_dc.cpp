@@ -129,10 +129,14 @@ class PaperDCImpl : public wxDCImpl {
   }
   void DoDrawText(const wxString& text, wxCoord x, wxCoord y) override {
     drawGround(text, x, y);
+    refreshTextColour();
     target_.DrawText(text, x, y);
+    target_.SetBrush(brushOf(m_brush));
   }
   void DoDrawRotatedText(const wxString& text, wxCoord x, wxCoord y, double angle) override {
+    refreshTextColour();
     target_.DrawRotatedText(text, x, y, angle);
+    target_.SetBrush(brushOf(m_brush));
   }
   bool DoBlit(wxCoord x, wxCoord y, wxCoord w, wxCoord h, wxDC* source, wxCoord fromX,
               wxCoord fromY, wxRasterOperationMode function, bool useMask, wxCoord maskX,
@@ -174,6 +178,15 @@ class PaperDCImpl : public wxDCImpl {
     target_.DrawRectangle(x, y, size.x, size.y);
     target_.SetPen(penOf(m_pen));
     target_.SetBrush(brushOf(m_brush));
+  }
+
+  // The toolkit's printer remembers a colour that isn't in force any more, and then writes in that
+  // of the last shape. A change of the brush is never skipped.
+  void refreshTextColour() {
+    const wxColour colour = colourOf(m_textForegroundColour);
+    if (!colour.IsOk()) return;
+    target_.SetBrush(colour == *wxWHITE ? *wxBLACK_BRUSH : *wxWHITE_BRUSH);
+    target_.SetBrush(wxBrush(colour));
   }
 
   wxDC& target_;

@@ -1,5 +1,7 @@
 // Real pages: printed to a file by the toolkit, turned into pictures, measured.
 #include <gtest/gtest.h>
+#include <wx/bitmap.h>
+#include <wx/dcmemory.h>
 
 #include <string>
 #include <vector>
@@ -145,6 +147,41 @@ TEST_P(PrintedAcross, ThePlanStandsInTheMiddleOfThePaper) {
   const Stretch run = RedStretch(pages[0], pages[0].GetHeight() / 3);
   // Within half a millimetre, 2 dots.
   EXPECT_NEAR(run.first, pages[0].GetWidth() - 1 - run.last, 2);
+}
+
+std::size_t RedDots(const wxImage& page) {
+  std::size_t count = 0;
+  for (int y = 0; y < page.GetHeight(); ++y)
+    for (int x = 0; x < page.GetWidth(); ++x)
+      count += page.GetRed(x, y) > 150 && page.GetGreen(x, y) < 90 && page.GetBlue(x, y) < 90;
+  return count;
+}
+
+TEST_F(PrintedPages, ATextKeepsItsColourBehindAShapeOfAnother) {
+  // The black letters of a signal stand over its red lamp; 1,000 mm on 193 mm of paper.
+  SceneryItem item;
+  item.id = 1;
+  item.item = "signal_semaphore_stop";
+  plan_.scenery = {item, item};
+  plan_.scenery[1].id = 2;
+  plan_.scenery[1].x = 1000;
+  options_.mode = kFitToPage;
+  const std::vector<wxImage> pages = print();
+  ASSERT_EQ(pages.size(), 1U);
+  LayoutPrintout onBitmap(plan_, options_);
+  wxBitmap bitmap(2480, 3508, 24);  // A4 at 300 dots an inch
+  wxMemoryDC memory(bitmap);
+  memory.SetBackground(*wxWHITE_BRUSH);
+  memory.Clear();
+  onBitmap.SetPageSizePixels(2480, 3508);
+  onBitmap.SetPPIPrinter(300, 300);
+  onBitmap.SetDC(&memory);
+  onBitmap.OnPreparePrinting();
+  ASSERT_TRUE(onBitmap.OnPrintPage(1));
+  memory.SelectObject(wxNullBitmap);
+  const std::size_t expected = RedDots(bitmap.ConvertToImage());
+  ASSERT_GT(expected, 100U);
+  EXPECT_LE(RedDots(pages[0]), expected + expected / 4);
 }
 
 }  // namespace
