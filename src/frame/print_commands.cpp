@@ -1,4 +1,5 @@
 // Print and Print Preview.
+#include <wx/log.h>
 #include <wx/paper.h>
 #include <wx/print.h>
 #include <wx/utils.h>
@@ -89,6 +90,7 @@ void MainFrame::onPrint(wxCommandEvent&) {
     LayoutPrintout printout(layout_, printOptions_);
     // Pages are drawn in an event loop of their own: nobody may edit or close the plan beneath it.
     const wxWindowDisabler noEvents;
+    const wxLogNull quiet;  // the toolkit would tell a problem in a box of its own as well
     done = printer.Print(this, &printout, true);
   }
   notePrinted(this, done, printer.GetPrintDialogData().GetPrintData());

@@ -1,5 +1,6 @@
 #include "print/layout_preview.h"
 
+#include <wx/log.h>
 #include <wx/utils.h>
 
 #include <utility>
@@ -27,6 +28,7 @@ bool LayoutPreview::Print(bool interactive) {
   bool done = false;
   {
     const wxWindowDisabler noEvents;
+    const wxLogNull quiet;  // who is told of a problem tells it in its own words
     done = printer.Print(GetFrame(), GetPrintoutForPrinting(), interactive);
   }
   const wxPrintData& chosen = printer.GetPrintDialogData().GetPrintData();

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <wx/gtk/print.h>
+#include <wx/log.h>
+#include <wx/module.h>
 #include <wx/print.h>
 #include <wx/radiobox.h>
 #include <wx/spinctrl.h>
@@ -9,6 +11,7 @@
 #include <chrono>
 #include <functional>
 #include <limits>
+#include <memory>
 
 #include "print/layout_printout.h"
 #include "tests/frame/frame_fixture.h"
@@ -71,8 +74,15 @@ constexpr const char* kProblem =
 class Printing : public FrameTest {
  protected:
   Printing() { wxPrintFactory::SetPrintFactory(new FakeFactory(printer_)); }
-  // What the toolkit begins with on this platform; setting one deletes the one before.
-  ~Printing() override { wxPrintFactory::SetPrintFactory(new wxGtkPrintFactory); }
+  // As the toolkit itself begins on this platform: its factory can't be made otherwise.
+  ~Printing() override {
+    wxPrintFactory::SetPrintFactory(nullptr);
+    const std::unique_ptr<wxObject> module(wxCreateDynamicObject("wxGtkPrintModule"));
+    if (auto* start = wxDynamicCast(module.get(), wxModule)) start->Init();
+    wxPrintDialogData data;
+    const std::unique_ptr<wxPrinterBase> real(wxPrintFactory::GetFactory()->CreatePrinter(&data));
+    EXPECT_NE(dynamic_cast<wxGtkPrinter*>(real.get()), nullptr);
+  }
 
   // The preview's own print button.
   void printFromPreview() {
@@ -118,6 +128,29 @@ TEST_F(Printing, AProblemOfThePrinterIsToldAndItsDataAreNotTaken) {
   script.dialog("Print Options", wxID_OK).box("Print", kProblem, kErrorBox, wxID_OK);
   command(5010);
   EXPECT_EQ(frame().printData().GetPaperId(), wxPAPER_LETTER);
+}
+
+// Counts what the toolkit would show in boxes of its own.
+class CountingLog : public wxLog {
+ public:
+  int records = 0;
+
+ protected:
+  void DoLogRecord(wxLogLevel, const wxString&, const wxLogRecordInfo&) override { ++records; }
+};
+
+TEST_F(Printing, AProblemOfThePrinterIsNotToldByTheToolkitToo) {
+  CountingLog log;
+  wxLog* const before = wxLog::SetActiveTarget(&log);
+  printer_.outcome = wxPRINTER_ERROR;
+  printer_.run = [](wxPrintout&) { wxLogError("Error while printing: no paper"); };
+  ModalScript script;
+  script.dialog("Print Options", wxID_OK).box("Print", kProblem, kErrorBox, wxID_OK);
+  command(5010);
+  EXPECT_EQ(log.records, 0);
+  wxLogError("afterwards errors are told again");
+  EXPECT_EQ(log.records, 1);
+  wxLog::SetActiveTarget(before);
 }
 
 TEST_F(Printing, ACancelInThePrintDialogNeedsNoWords) {
