@@ -147,7 +147,10 @@ ViewTransform LayoutPrintout::viewOn(wxDC& dc, int page) const {
 void LayoutPrintout::draw(wxDC& dc, int page) {
   const PageArea area = drawnArea(pages_, lastPage(), page);
   const wxDCClipper clipper(dc, area.left, area.top, area.width, area.height);
+  const PageArea whole = wholeArea(pages_, lastPage(), page);
   RenderContext context;
+  context.platesWithin = {whole.left, whole.top, whole.left + whole.width,
+                          whole.top + whole.height};
   DrawLayoutContents(context, dc, *layout_, viewOn(dc, page), lastPage());
 }
 

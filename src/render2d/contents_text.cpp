@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "app/services/wx_text.h"
@@ -45,9 +46,15 @@ void DrawCentredText(ContentsPaint& paint, std::string_view text, wxPoint centre
 void DrawTextOnPlate(ContentsPaint& paint, std::string_view text, wxPoint centre, int padX,
                      int padY) {
   const MeasuredText& measured = Measure(paint, text);
-  const wxPoint corner = TopLeft(measured, centre);
+  wxPoint corner = TopLeft(measured, centre);
   const int besides = paint.view.pixels(padX);
   const int above = paint.view.pixels(padY);
+  if (const std::optional<DeviceSides>& sides = paint.context.platesWithin) {
+    corner.x = std::min(corner.x, sides->right - besides - measured.size.GetWidth());
+    corner.x = std::max(corner.x, sides->left + besides);
+    corner.y = std::min(corner.y, sides->bottom - above - measured.size.GetHeight());
+    corner.y = std::max(corner.y, sides->top + above);
+  }
   paint.dc.DrawRoundedRectangle(
       corner.x - besides, corner.y - above, measured.size.GetWidth() + 2 * besides,
       measured.size.GetHeight() + 2 * above, kPlateCorner * paint.view.pixel);

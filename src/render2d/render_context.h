@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <unordered_set>
 
 #include "doc/layout.h"
@@ -9,6 +10,14 @@
 namespace vantrel {
 
 struct TextExtents;
+
+// Device units.
+struct DeviceSides {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+};
 
 struct RenderContext {
   const Layout* layout = nullptr;  // null for a piece drawn outside a layout
@@ -18,6 +27,9 @@ struct RenderContext {
   // Texts measured so far: the owner's, kept from paint to paint, or lent by TextExtentsOfPaint for
   // one paint and null outside it.
   TextExtents* textExtents = nullptr;
+  // Between which sides plates with lengths stand whole, if there are any: paper can't be scrolled,
+  // and a length without its first digit is another length.
+  std::optional<DeviceSides> platesWithin;
 };
 
 }  // namespace vantrel

@@ -268,5 +268,13 @@ TEST(PrintPages, EndAtTheSeamsAndRunOutToTheEdgesElsewhere) {
   EXPECT_EQ(drawnArea(Pagination{}, kLetterLandscape, 1), (PageArea{0, 0, 3300, 2550}));
 }
 
+TEST(WholeArea, IsTheSameSeenFromEverySheet) {
+  // Margins of 40 and 20 dots leave 920 by 460: two sheets across are 920 apart.
+  const Pagination pagination{1.0, 2, 1};
+  const DeviceSize page{1000, 500};
+  EXPECT_EQ(wholeArea(pagination, page, 1), (PageArea{20, 10, 1880, 480}));
+  EXPECT_EQ(wholeArea(pagination, page, 2), (PageArea{-900, 10, 1880, 480}));
+}
+
 }  // namespace
 }  // namespace vantrel

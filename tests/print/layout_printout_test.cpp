@@ -322,6 +322,26 @@ TEST_F(PrintedLayout, IsShrunkToTheDeviceOfAPreview) {
   EXPECT_NEAR(down, 0.1, 1e-6);
 }
 
+TEST_F(PrintedLayout, LengthsAtTheEdgeOfTheBoardStandWholeOnThePaper) {
+  // Upright letter paper at 300 dots an inch, margins of 102 and 132 dots. A plate on the left edge
+  // of a board that fills the width would reach 100 dots or more beyond the paper.
+  plan_.pieces.clear();
+  plan_.baseboard = {{0, 0}, {2400, 0}, {2400, 1200}, {0, 1200}};
+  setUp(printout(), 2550, 3300, 300);
+  printout().OnPreparePrinting();
+  printout().OnPrintPage(1);
+  int plates = 0;
+  for (const DrawCall& call : dc_.callsOf(DrawOp::roundedRectangle)) {
+    ++plates;
+    EXPECT_GE(call.box.x, 51);  // half a margin
+    EXPECT_LE(call.box.x + call.box.width, 2550 - 51);
+  }
+  EXPECT_EQ(plates, 4);
+  const std::vector<DrawCall> texts = dc_.texts("1200 mm");
+  ASSERT_EQ(texts.size(), 2U);
+  EXPECT_NE(texts[0].points[0].x, texts[1].points[0].x);
+}
+
 TEST_F(PrintedLayout, OfAbsurdSizeIsNeitherSlowNorUndefined) {
   const auto start = std::chrono::steady_clock::now();
   for (const double far : {1e9, 1e300, std::numeric_limits<double>::infinity(),

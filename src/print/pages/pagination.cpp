@@ -98,4 +98,16 @@ PageArea drawnArea(const Pagination& pagination, DeviceSize page, int number) {
   return {left, top, right - left, bottom - top};
 }
 
+PageArea wholeArea(const Pagination& pagination, DeviceSize page, int number) {
+  const PageArea usable = usableArea(page);
+  const Tile tile = TileOf(pagination, number);
+  const auto of = [](int sheets, int sheet) {
+    return DeviceInt(static_cast<double>(sheets) * sheet);
+  };
+  return {usable.left / 2 - of(tile.column, usable.width),
+          usable.top / 2 - of(tile.row, usable.height),
+          page.width - 2 * (usable.left / 2) + of(pagination.pagesAcross - 1, usable.width),
+          page.height - 2 * (usable.top / 2) + of(pagination.pagesDown - 1, usable.height)};
+}
+
 }  // namespace vantrel

@@ -49,4 +49,8 @@ ViewTransform pageView(const Pagination& pagination, const PrintBounds& bounds, 
 // edge where there is none, because beds and labels reach beyond the bounds.
 PageArea drawnArea(const Pagination& pagination, DeviceSize page, int number);
 
+// All sheets together but half of their outer margins, seen from page `number`: what must be whole on
+// paper stands in it, and the same on both sides of a seam.
+PageArea wholeArea(const Pagination& pagination, DeviceSize page, int number);
+
 }  // namespace vantrel
