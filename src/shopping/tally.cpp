@@ -84,9 +84,9 @@ void AddRecommendation(std::vector<TallyRow>& rows, const char* text, std::int32
 PieceCounts CountForTally(const Layout& layout) {
   PieceCounts counts = CountPieces(layout);
   AddDeckPieces(counts);
+  PackSpokes(counts);  // those of the track alone; the cart packs all of them
   AddSoldScenery(counts, layout);
   AddHelixCurves(counts, layout);
-  PackSpokes(counts);
   return counts;
 }
 

@@ -65,14 +65,14 @@ TEST(Tally, PacksSpokesByThree) {
   EXPECT_EQ(Counted("74871", 7), (PieceCounts{{"74871", 3}}));
 }
 
-TEST(Tally, PacksSpokesOverPiecesAndSceneryTogether) {
+TEST(Tally, PacksTheSpokesOfTheTrackBeforeItCountsScenery) {
   Layout layout;
   Place(layout, "74871", 2);
   PlaceScenery(layout, "74871", 2);
-  // 4 in all make 2 packs; one pack and two loose ones would be 3.
-  EXPECT_EQ(CountForTally(layout), (PieceCounts{{"74871", 2}}));
+  // 2 spokes are 1 pack, and 2 of the scenery; packed together, 4 would be 2.
+  EXPECT_EQ(CountForTally(layout), (PieceCounts{{"74871", 3}}));
   layout.pieces.clear();
-  EXPECT_EQ(CountForTally(layout), (PieceCounts{{"74871", 1}}));
+  EXPECT_EQ(CountForTally(layout), (PieceCounts{{"74871", 2}}));
 }
 
 TEST(Tally, AddsWhatABridgeOrRampCarries) {
