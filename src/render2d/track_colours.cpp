@@ -25,8 +25,8 @@ std::uint8_t DarkerOrZero(std::uint8_t channel, int by) {
   return channel - by < 1 ? std::uint8_t{0} : static_cast<std::uint8_t>(channel - by);
 }
 
-Rgb PlainFill(const RenderContext& context, const Piece& piece, const PieceDef& def) {
-  Rgb fill = def.system == TrackSystem::MarklinK ? kBedFillK : kBedFill;
+Rgb8 PlainFill(const RenderContext& context, const Piece& piece, const PieceDef& def) {
+  Rgb8 fill = def.system == TrackSystem::MarklinK ? kBedFillK : kBedFill;
   if (context.layout != nullptr) {
     const Level* level = FindLevel(*context.layout, piece.level);
     if (level != nullptr && level->trackcolor) fill = {level->r, level->g, level->b};
@@ -43,7 +43,7 @@ bool IsExemptFromRamp(const RenderContext& context, const Piece& piece) {
 }
 
 // From near grey through yellow at half the full height to brown.
-Rgb RampFill(double z) {
+Rgb8 RampFill(double z) {
   const double t = std::min(1.0, z / kRampFullHeightMm);
   if (t < 0.5) {
     const double u = 2.0 * t;
@@ -57,7 +57,7 @@ std::uint8_t FadedChannel(std::uint8_t channel) {
   return Truncated(0.4 * channel + 132.0);
 }
 
-Rgb Faded(Rgb colour) {
+Rgb8 Faded(Rgb8 colour) {
   return {FadedChannel(colour.r), FadedChannel(colour.g), FadedChannel(colour.b)};
 }
 
@@ -76,15 +76,15 @@ BedColours placedBedColours(const RenderContext& context, const Piece& piece, co
   return colours;
 }
 
-Rgb loweredBy(Rgb colour, int r, int g, int b) {
+Rgb8 loweredBy(Rgb8 colour, int r, int g, int b) {
   return {Wrapped(colour.r - r), Wrapped(colour.g - g), Wrapped(colour.b - b)};
 }
 
-Rgb branchColour(Rgb fill) {
+Rgb8 branchColour(Rgb8 fill) {
   return loweredBy(fill, 15, 15, 10);
 }
 
-Rgb slipColour(Rgb fill, bool ghost) {
+Rgb8 slipColour(Rgb8 fill, bool ghost) {
   if (ghost) return loweredBy(fill, -10, -10, -18);
   return {Wrapped(std::min(fill.r + 10, 255)), Wrapped(std::min(fill.g + 10, 255)),
           Wrapped(std::min(fill.b + 18, 255))};

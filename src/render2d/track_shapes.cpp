@@ -24,7 +24,7 @@ BedPoints& ScratchBuffer(std::size_t which) {
 }
 
 void FillStraight(const TrackPaint& paint, const BedFrame& frame, const BedMeasures& measures,
-                  Rgb colour) {
+                  Rgb8 colour) {
   BedPoints& points = ScratchBuffer(0);
   makeStraightBed(points, frame, measures, paint.view);
   FillBedPolygon(paint.dc, points, ToColour(colour), ToColour(paint.colours.outline),
@@ -32,18 +32,18 @@ void FillStraight(const TrackPaint& paint, const BedFrame& frame, const BedMeasu
 }
 
 void FillArc(const TrackPaint& paint, const BedFrame& frame, const BedMeasures& measures,
-             Rgb colour) {
+             Rgb8 colour) {
   BedPoints& points = ScratchBuffer(0);
   makeArcBed(points, frame, measures, paint.view);
   FillBedPolygon(paint.dc, points, ToColour(colour), ToColour(paint.colours.outline),
                  paint.view.pixels(kOutlineWidth));
 }
 
-void DrawStraightBed(const TrackPaint& paint, Rgb colour) {
+void DrawStraightBed(const TrackPaint& paint, Rgb8 colour) {
   FillStraight(paint, paint.frame, measuresOf(paint.def, 1), colour);
 }
 
-void DrawRoute(const TrackPaint& paint, int route, Rgb colour) {
+void DrawRoute(const TrackPaint& paint, int route, Rgb8 colour) {
   FillArc(paint, paint.frame, measuresOf(paint.def, route), colour);
 }
 
@@ -55,7 +55,7 @@ BedFrame CrossingFrame(const TrackPaint& paint) {
 }
 
 // The straight from connector 2 to connector 3; nothing without them.
-void DrawCrossingStraight(const TrackPaint& paint, Rgb colour) {
+void DrawCrossingStraight(const TrackPaint& paint, Rgb8 colour) {
   if (paint.def.connectors.size() < 4) return;
   const Connector& from = paint.def.connectors[2];
   const Connector& to = paint.def.connectors[3];
@@ -65,7 +65,7 @@ void DrawCrossingStraight(const TrackPaint& paint, Rgb colour) {
 }
 
 void DrawTurnout(const TrackPaint& paint) {
-  const Rgb branch = branchColour(paint.colours.fill);
+  const Rgb8 branch = branchColour(paint.colours.fill);
   if (paint.def.kind == PieceKind::LeftTurnout && paint.def.connectors.size() >= 4) {
     DrawRoute(paint, 2, branch);
     DrawRoute(paint, 3, branch);
@@ -86,7 +86,7 @@ void DrawShiftedArcs(const TrackPaint& paint, double shift) {
 
 // Two parallel arcs, a straight link before the outer one.
 void DrawLinkedArcs(const TrackPaint& paint, double shift) {
-  const Rgb branch = branchColour(paint.colours.fill);
+  const Rgb8 branch = branchColour(paint.colours.fill);
   const BedMeasures arc = measuresOf(paint.def, 1);
   BedMeasures link = arc;
   link.length = shift;
@@ -152,7 +152,7 @@ void DrawDoubleSlip(const TrackPaint& paint) {
 }
 
 void DrawOuterCurveTurnout(const TrackPaint& paint) {
-  const Rgb branch = branchColour(paint.colours.fill);
+  const Rgb8 branch = branchColour(paint.colours.fill);
   const BedMeasures measures = measuresOf(paint.def, 1);
   FillArc(paint, paint.frame, measures, paint.colours.fill);
   FillStraight(paint, paint.frame, measures, branch);
@@ -162,7 +162,7 @@ void DrawOuterCurveTurnout(const TrackPaint& paint) {
 }  // namespace
 
 void drawTrackShape(const TrackPaint& paint) {
-  const Rgb fill = paint.colours.fill;
+  const Rgb8 fill = paint.colours.fill;
   switch (paint.def.kind) {
     case PieceKind::Straight:
     case PieceKind::TrackEnd:

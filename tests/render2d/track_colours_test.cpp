@@ -231,8 +231,8 @@ TEST_F(TrackColours, DarkFillsWrapAroundInTheBranchOfATurnout) {
 }
 
 TEST(SlipColour, StopsAt255OnAPlacedPieceOnly) {
-  EXPECT_EQ(slipColour({250, 245, 237}, false), (Rgb{255, 255, 255}));
-  EXPECT_EQ(slipColour({250, 246, 238}, true), (Rgb{4, 0, 0}));
+  EXPECT_EQ(slipColour({250, 245, 237}, false), (Rgb8{255, 255, 255}));
+  EXPECT_EQ(slipColour({250, 246, 238}, true), (Rgb8{4, 0, 0}));
 }
 
 }  // namespace
