@@ -72,8 +72,7 @@ Sheet LayOut(double scale) {
 void DrawCell(wxDC& dc, const Cell& cell, double scale) {
   const vantrel::RenderContext context;
   const vantrel::SceneryDef& def = *cell.def;
-  dc.SetFont(*wxTheFontList->FindOrCreateFont(9, wxFONTFAMILY_DEFAULT, wxFONTSTYLE_NORMAL,
-                                              wxFONTWEIGHT_NORMAL));
+  dc.SetFont(wxFont(wxFontInfo(9)));
   dc.SetTextForeground(*wxBLACK);
   dc.DrawText(wxString::FromUTF8(def.id), cell.x, cell.y);
   const vantrel::Pose middle{def.width / 2.0, def.depth / 2.0, 0.0};

@@ -20,8 +20,9 @@ constexpr double kScreenDpi = 96.0;
 constexpr int kUsualDpi = 300;
 
 // A bitmap of 40 million dots, an A4 page at 600 dots an inch, takes half a gigabyte until it is
-// grey and on its way to the printer.
+// grey and on its way to the printer. A longer side than this is none that the toolkit can draw on.
 constexpr double kMostBitmapDots = 40e6;
+constexpr int kLongestBitmapSide = 32'767;
 
 // The height of a text of so many points, in the units of a device: large enough for whole units,
 // also on a preview that shows a page at a twentieth of its size.
@@ -155,6 +156,7 @@ void LayoutPrintout::draw(wxDC& dc, int page) {
 }
 
 wxBitmap LayoutPrintout::makePageBitmap(wxSize size) const {
+  if (std::max(size.x, size.y) > kLongestBitmapSide) return wxNullBitmap;
   if (static_cast<double>(size.x) * size.y > kMostBitmapDots) return wxNullBitmap;
   return wxBitmap(size, 24);
 }

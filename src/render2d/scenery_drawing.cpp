@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "catalog/piece_builders.h"
+#include "render2d/contents_text.h"
 #include "render2d/text_extent.h"
 
 namespace vantrel {
@@ -21,8 +22,6 @@ namespace {
 constexpr int kFewestEllipsePoints = 12;
 constexpr int kMostEllipsePoints = 64;
 constexpr int kSmallestFontPoints = 8;
-// Far above any screen or page; the text engine overflows not much further up.
-constexpr int kLargestFontPoints = 4000;
 // The toolkit walks every dot of a dotted line, seen or not, up to a tenth of a second per item. No
 // sound plan comes near this length; a footprint beyond it is framed by a plain line.
 constexpr int kLongestDottedSide = 200'000;  // device units
@@ -208,9 +207,10 @@ class ItemPainter {
   void drawText(const ScenePrimitive& primitive, Rgba colour) {
     const int points = std::clamp(DeviceInt(primitive.h * frame_.view().pixelScale()),
                                   kSmallestFontPoints, kLargestFontPoints);
-    dc_.SetFont(*wxTheFontList->FindOrCreateFont(frame_.view().fontPoints(points),
-                                                 wxFONTFAMILY_DEFAULT, wxFONTSTYLE_NORMAL,
-                                                 wxFONTWEIGHT_BOLD));
+    // Not from the toolkit's list of fonts, which takes 70 points for "whatever is usual". The one
+    // in force stays if it is the same, so that texts are found among those measured already.
+    const wxFont font = PlanFont(frame_.view(), points, wxFONTWEIGHT_BOLD);
+    if (dc_.GetFont() != font) dc_.SetFont(font);
     dc_.SetTextForeground(ToColour(colour));
     dc_.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
     TextExtents ofThisCall;

@@ -98,6 +98,29 @@ TEST(PrintPages, TwoHundredPercentGivesTwoSheetsTheTightWayAndOneOrTwoTheOther) 
   ExpectPages(paginate({0, 0, 1200, 2400}, AtPercent(200), kLetterLandscape, 300), 1, 2);
 }
 
+TEST(PrintPages, EachScalingLooksAtItsOwnNumberAlone) {
+  // The numbers of the other scalings stay in their fields: 37 percent, and 1:23.
+  PrintOptions fit;
+  fit.percent = 37;
+  fit.scaleN = 23;
+  const Pagination fitted = paginate(kTable, fit, kLetterLandscape, 300);
+  EXPECT_NEAR(fitted.scale, 1.265, 1e-9);  // 3036 / 2400
+  ExpectPages(fitted, 1, 1);
+  fit.percent = 290;
+  EXPECT_EQ(paginate(kTable, fit, kLetterLandscape, 300), fitted);
+  EXPECT_EQ(paginate(kTable, fit, kLetterLandscape, 1200), fitted);
+  PrintOptions actual = AtScale(5);
+  actual.percent = 37;
+  const Pagination atFive = paginate(kTable, actual, kLetterLandscape, 300);
+  EXPECT_NEAR(atFive.scale, 2.36220472, 1e-8);  // 300 / 25.4 / 5
+  ExpectPages(atFive, 2, 2);
+  PrintOptions part = AtPercent(290);
+  part.scaleN = 23;
+  const Pagination enlarged = paginate(kTable, part, kLetterLandscape, 1200);
+  EXPECT_NEAR(enlarged.scale, 3.6685, 1e-9);  // 2.9 * 1.265
+  ExpectPages(enlarged, 3, 2);                // 2.9 and 1518 * 2.9 / 2346 = 1.88
+}
+
 TEST(PrintPages, AnExactFitDoesNotSpill) {
   // At 254 dots per inch a millimetre at 1:1 is 10 dots. 230 usable dots: 0.92 * 250.
   ExpectPages(paginate({0, 0, 46, 23}, AtScale(1), {250, 250}, 254), 2, 1);
@@ -274,6 +297,15 @@ TEST(WholeArea, IsTheSameSeenFromEverySheet) {
   const DeviceSize page{1000, 500};
   EXPECT_EQ(wholeArea(pagination, page, 1), (PageArea{20, 10, 1880, 480}));
   EXPECT_EQ(wholeArea(pagination, page, 2), (PageArea{-900, 10, 1880, 480}));
+}
+
+TEST(WholeArea, GrowsByUsableHeightsDownTheRows) {
+  // Three sheets across and four down are 2 * 920 and 3 * 460 more than one of 960 by 480. The
+  // eighth is the second of the third row: 920 and 2 * 460 before it.
+  const Pagination pagination{1.0, 3, 4};
+  const DeviceSize page{1000, 500};
+  EXPECT_EQ(wholeArea(pagination, page, 1), (PageArea{20, 10, 2800, 1860}));
+  EXPECT_EQ(wholeArea(pagination, page, 8), (PageArea{-900, -910, 2800, 1860}));
 }
 
 }  // namespace

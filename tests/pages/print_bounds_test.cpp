@@ -47,6 +47,17 @@ TEST(PrintBounds, CoverBothEndsOfAPiecesStraightLine) {
   ExpectBounds(boundsOfPrint(plan, {}), -88.3, 50, 100, 50);
 }
 
+TEST(PrintBounds, FollowAHeadingThatIsNoQuarterTurn) {
+  Layout plan;
+  plan.pieces = {Straight(100, 50, 30)};
+  // 188.3 * 0.8660254 = 163.072583 across, half of 188.3 down.
+  const PrintBounds bounds = boundsOfPrint(plan, {});
+  EXPECT_NEAR(bounds.maxX, 263.072583, 1e-5);
+  EXPECT_NEAR(bounds.maxY, 144.15, 1e-9);
+  EXPECT_NEAR(bounds.minX, 100.0, 1e-9);
+  EXPECT_NEAR(bounds.minY, 50.0, 1e-9);
+}
+
 // "24130" is a curve of 360 mm radius and 30 degrees. Its length is that of its arc, 360 * pi / 6 =
 // 188.495559 mm, and counts along its heading, though its end lies at 180 by 48.2 mm.
 TEST(PrintBounds, TakeACurveForAStraightOfItsLength) {

@@ -180,6 +180,31 @@ TEST_F(PrintedLayout, InGreyOnALargeFinePageNeedsNoBitmap) {
   EXPECT_GT(dc_.count(DrawOp::polygon), 0U);
 }
 
+// A banner of little area: 32,768 by 900 dots are 29 million, but the toolkit draws on no bitmap
+// with a side beyond 32,767.
+TEST_F(PrintedLayout, InGreyOnALongBannerNeedsNoBitmap) {
+  options_.grayscale = 1;
+  for (const wxSize page : {wxSize(32'768, 900), wxSize(900, 32'768)}) {
+    dc_.forget();
+    LayoutPrintout out(plan_, options_);
+    setUp(out, page.x, page.y, 300);
+    out.OnPreparePrinting();
+    EXPECT_TRUE(out.OnPrintPage(1));
+    EXPECT_EQ(dc_.count(DrawOp::bitmap), 0U);
+    EXPECT_GT(dc_.count(DrawOp::polygon), 0U);
+  }
+}
+
+TEST_F(PrintedLayout, InGreyOnTheLongestBannerIsOneBitmap) {
+  options_.grayscale = 1;
+  LayoutPrintout out(plan_, options_);
+  setUp(out, 32'767, 300, 300);
+  out.OnPreparePrinting();
+  EXPECT_TRUE(out.OnPrintPage(1));
+  EXPECT_EQ(dc_.count(DrawOp::bitmap), 1U);
+  EXPECT_EQ(dc_.count(DrawOp::polygon), 0U);
+}
+
 TEST(GreyOf, IsTheLightnessWithTheColoursOwnOpacity) {
   // 0.299 * 200 + 0.587 * 100 + 0.114 * 50 = 124.2.
   EXPECT_EQ(greyOf(wxColour(200, 100, 50, 77)), wxColour(124, 124, 124, 77));

@@ -12,6 +12,14 @@
 namespace vantrel {
 namespace {
 
+TEST(ContentsText, AFontHasEachSizeThatIsAskedForOnAScreenAndOnAPage) {
+  ViewTransform page;
+  page.fontScale = 3.5;
+  EXPECT_EQ(PlanFont(page, 20, 700).GetPointSize(), 70);
+  for (int points = 1; points <= 500; ++points)
+    EXPECT_EQ(PlanFont(ViewTransform{}, points, 400).GetPointSize(), points);
+}
+
 TEST(ContentsText, BoundsAreNoSmallerThanTheTextInTheFontsOfThisMachine) {
   wxBitmap bitmap(10, 10, 24);
   wxMemoryDC dc(bitmap);

@@ -271,6 +271,28 @@ TEST(SceneryItem, ATextIsNeverSmallerThan8Points) {
   EXPECT_EQ(size(1.29), 12);
 }
 
+// The toolkit knows numbers that stand for "whatever is usual": 70 points once came out as 10.
+TEST(SceneryItem, ATextHasEachSizeThatItsHeightAsksFor) {
+  // 10 mm at a scale of 7.05 are 70.5 points, cut off to 70.
+  EXPECT_EQ(DrawOne(TextAt(40, 30, 10, "SS"), {.view = {7.05, 0.5, 0.5}}).font.pointSize, 70);
+  for (int points = 9; points <= 400; ++points) {
+    const double scale = (points + 0.5) / 10.0;
+    EXPECT_EQ(DrawOne(TextAt(40, 30, 10, "SS"), {.view = {scale, 0.5, 0.5}}).font.pointSize,
+              points);
+  }
+}
+
+TEST(SceneryItem, TextsOfOneSizeInARowShareTheirFont) {
+  RecordingDC dc;
+  const ViewTransform view{7.05, 0.5, 0.5};
+  const SceneryDef def = Def(100, 60, {TextAt(10, 10, 10, "A"), TextAt(40, 30, 10, "B")});
+  for (int i = 0; i < 3; ++i)
+    DrawSceneryItem(RenderContext{}, dc, def, {50, 30, 0}, view, false, 1.0, 1.0);
+  EXPECT_EQ(dc.texts("A").size(), 3u);
+  EXPECT_EQ(dc.texts("B").size(), 3u);
+  EXPECT_EQ(dc.fontChanges(), 1);
+}
+
 TEST(SceneryItem, ATextIsReadAsUtf8) {
   // Five characters of seven bytes, at 10 points 50 wide.
   const DrawCall call = DrawOne(TextAt(40, 30, 10,

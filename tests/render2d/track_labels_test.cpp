@@ -91,6 +91,13 @@ TEST(PartNumber, KeepsTheStyleOfTheDevicesFont) {
   EXPECT_EQ(font.weight, 700);
 }
 
+TEST(PartNumber, HasEachSizeThatTheScaleAsksFor) {
+  // Nine points for each pixel of a mm, cut off: 70 at a scale of 7.8.
+  EXPECT_EQ(LabelOf(Straight(200.0), {7.8, 0.0, 0.0}).font.pointSize, 70);
+  for (int points = 6; points <= 180; ++points)
+    EXPECT_EQ(LabelOf(Straight(200.0), {(points + 0.5) / 9.0, 0.0, 0.0}).font.pointSize, points);
+}
+
 TEST(PartNumber, IsWrittenOnADeviceThatWasGivenNoFont) {
   RecordingDC dc;
   dc.SetFont(wxNullFont);
