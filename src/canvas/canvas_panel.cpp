@@ -20,6 +20,7 @@
 #include "canvas/gestures/palette_drag.h"
 #include "canvas/gestures/polygon_draft.h"
 #include "canvas/gestures/scenery_drag.h"
+#include "canvas/gestures/step_rotation.h"
 #include "canvas/gestures/view_navigation.h"
 #include "canvas/resize_scenery_dialog.h"
 #include "canvas/shape_properties_dialog.h"
@@ -234,6 +235,12 @@ void CanvasPanel::resetViewUnitScale() {
 void CanvasPanel::showGrid(bool visible) {
   CanvasContext canvas = context();
   vantrel::showGrid(canvas, visible);
+}
+
+void CanvasPanel::turnSelection(double degrees) {
+  CanvasContext canvas = context();
+  vantrel::endGestures(canvas);
+  vantrel::turnSelection(canvas, degrees);
 }
 
 void CanvasPanel::endGestures() {

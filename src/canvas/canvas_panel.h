@@ -34,6 +34,9 @@ class CanvasPanel : public wxPanel, public PlacementTarget, private CanvasHost {
   void resetViewUnitScale();
   void showGrid(bool visible);
 
+  // As a step of the wheel with Ctrl, by any angle. Ends what is under way.
+  void turnSelection(double degrees);
+
   // As the release would end it.
   void endGestures() override;
   // For another plan: ends gestures, what hangs at the pointer, drafts and the armed tool.

@@ -151,7 +151,7 @@ constexpr KeyStep kKeys[] = {
     escapeKey,
     deleteKey,
 };
-constexpr KeyStep kCharacters[] = {zoomByCharacter};
+constexpr KeyStep kCharacters[] = {zoomByCharacter, turnByCharacter};
 
 // Bottom to top; what gestures draw over the plan comes last, so that the plan can be kept.
 constexpr PaintStep kPaintStill[] = {

@@ -184,7 +184,9 @@ Alt+drag turns it freely and shows the angle, which catches at 0, 90, 180 and 27
 whole selection rotates as a rigid block around its centroid; each piece's heading spins in place
 and its position orbits the centroid.
 
-Ctrl+wheel turns it about its middle, 15 degrees at each step, or 5 with Shift.
+Ctrl+wheel turns it about its middle, 15 degrees at each step, or 5 with Shift. The keys [ and ]
+do the same, to the left and to the right, and with Shift by one degree: use them where your
+desktop keeps Alt with a drag for moving windows. The Tools menu has these four turns as well.
 
 Alt+right-click turns it about its first piece: 30 degrees for track, platforms and signals, 15
 for other scenery.
@@ -335,6 +337,8 @@ Business.
 )text";
 
 constexpr std::string_view kShortcutNotes = R"text(
+[ and ] rotate the selection by 15 degrees, with Shift by one.
+
 Copy and Paste are chosen from the right-click menu. Alt+right-click turns track by 30 degrees and
 most scenery by 15.
 )text";

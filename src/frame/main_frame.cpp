@@ -16,6 +16,7 @@
 #include "frame/program_title.h"
 #include "frame/splash_dialog.h"
 #include "frame/store_folder.h"
+#include "frame/tools_menu.h"
 #include "properties/properties_panel.h"
 #include "view3d/view3d_frame.h"
 #include "workspace/status_text.h"
@@ -41,6 +42,7 @@ MainFrame::MainFrame(const ProgramFolders& folders)
   StartFrameLog(folders_.data);
   FrameLog("A: wxFrame base constructed");
   BuildMenuBar(*this);
+  BindToolCommands(*this);
   FrameLog("B: MenuBar done");
   FillToolBar(*CreateToolBar(wxTB_HORIZONTAL | wxTB_TEXT | wxTB_NOICONS));
   FrameLog("C: ToolBar done");

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "frame/commands.h"
+#include "frame/tools_menu.h"
 
 namespace vantrel {
 namespace {
@@ -51,14 +52,27 @@ wxMenu* BuildMenu(CommandPlace place, NumberedItems& items) {
   return menu;
 }
 
+constexpr const char* kToolsLabel = "&Tools";
+
+wxMenu* BuildToolsMenu(NumberedItems& items) {
+  auto* menu = new wxMenu;
+  for (const ToolCommand& command : ToolCommands()) {
+    items.emplace_back(menu->Append(wxID_ANY, command.label), command.id);
+    if (command.separatorAfter) menu->AppendSeparator();
+  }
+  return menu;
+}
+
 }  // namespace
 
 void BuildMenuBar(wxFrame& frame) {
   auto* bar = new wxMenuBar;
   NumberedItems items;
-  for (const CommandPlace place : {CommandPlace::file, CommandPlace::edit, CommandPlace::view,
-                                   CommandPlace::layout, CommandPlace::help})
+  for (const CommandPlace place :
+       {CommandPlace::file, CommandPlace::edit, CommandPlace::view, CommandPlace::layout})
     bar->Append(BuildMenu(place, items), PlaceLabel(place));
+  bar->Append(BuildToolsMenu(items), kToolsLabel);
+  bar->Append(BuildMenu(CommandPlace::help, items), PlaceLabel(CommandPlace::help));
   frame.SetMenuBar(bar);
   // While an entry is appended, the toolkit gives some of our numbers a shortcut of its own when
   // the label has none: Ctrl+Q for Exit. Only the labels' shortcuts are wanted.

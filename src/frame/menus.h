@@ -1,4 +1,4 @@
-// Menu bar and toolbar, built from the command table.
+// Menu bar and toolbar, built from the command table and the table of the Tools menu.
 #pragma once
 
 class wxFrame;

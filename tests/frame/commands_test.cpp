@@ -44,12 +44,13 @@ class Menus : public FrameTest {
 
 TEST_F(Menus, StandInTheirOrder) {
   wxMenuBar& bar = *frame().GetMenuBar();
-  ASSERT_EQ(bar.GetMenuCount(), 5u);
+  ASSERT_EQ(bar.GetMenuCount(), 6u);
   EXPECT_EQ(bar.GetMenuLabel(0), "&File");
   EXPECT_EQ(bar.GetMenuLabel(1), "&Edit");
   EXPECT_EQ(bar.GetMenuLabel(2), "&View");
   EXPECT_EQ(bar.GetMenuLabel(3), "&Layout");
-  EXPECT_EQ(bar.GetMenuLabel(4), "&Help");
+  EXPECT_EQ(bar.GetMenuLabel(4), "&Tools");
+  EXPECT_EQ(bar.GetMenuLabel(5), "&Help");
 }
 
 TEST_F(Menus, FileHoldsItsEntriesAndSeparators) {
@@ -101,7 +102,7 @@ TEST_F(Menus, LayoutHoldsTheUnitsAndTheShape) {
 
 TEST_F(Menus, HelpHoldsItsEntriesAndSeparators) {
   const std::vector<Entry> expected = {{2022, "&Help\tF1"}, kBar, {2023, "&Options..."}};
-  EXPECT_EQ(EntriesOf(menu(4)), expected);
+  EXPECT_EQ(EntriesOf(menu(5)), expected);
 }
 
 TEST_F(Menus, GridSnapAndMillimetresStartChecked) {

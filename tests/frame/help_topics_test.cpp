@@ -232,6 +232,15 @@ TEST(HelpShortcuts, AreFollowedByTheTruthAboutTwoOfThem) {
   EXPECT_NE(notes.find("Alt+right-click turns track by 30 degrees"), std::string::npos);
 }
 
+// Whose desktop takes Alt with a drag finds another way.
+TEST(HelpTopics, TellHowToTurnWithoutAlt) {
+  const std::string body = WholeBody(Topic("Rotating Pieces"));
+  EXPECT_NE(body.find("The keys [ and ] do the same"), std::string::npos) << body;
+  EXPECT_NE(body.find("The Tools menu"), std::string::npos) << body;
+  EXPECT_NE(Topic("Keyboard Shortcuts").textBehind.find("[ and ] rotate the selection"),
+            std::string::npos);
+}
+
 TEST(HelpTopics, NameEveryShortcutOfTheMenus) {
   std::string manual = WholeManual();
   manual += "Ctrl+O Ctrl+N";  // written as "Ctrl+S / O / N"

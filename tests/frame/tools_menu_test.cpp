@@ -1,0 +1,126 @@
+// The menu Tools: its place, its entries, what they do, and that its keys leave text fields alone.
+#include "frame/tools_menu.h"
+
+#include <gtest/gtest.h>
+#include <wx/menu.h>
+#include <wx/textctrl.h>
+#include <wx/uiaction.h>
+
+#include <functional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "properties/properties_panel.h"
+#include "tests/frame/frame_fixture.h"
+
+namespace vantrel {
+namespace {
+
+class ToolsMenu : public FrameTest {
+ protected:
+  bool enabled(int id) {
+    frame().DoMenuUpdates();
+    return frame().GetMenuBar()->IsEnabled(id);
+  }
+
+  // Runs the window's events until this holds, or for five seconds.
+  static bool waitFor(const std::function<bool()>& holds) {
+    for (int i = 0; i < 500 && !holds(); ++i) {
+      wxTheApp->Yield();
+      wxMilliSleep(10);
+    }
+    return holds();
+  }
+  // As if the key were pressed on the keyboard.
+  static void press(int key, int modifiers = wxMOD_NONE) {
+    wxUIActionSimulator().Char(key, modifiers);
+    wxTheApp->Yield();
+  }
+};
+
+TEST_F(ToolsMenu, HoldsOneEntryForEachRowBetweenLayoutAndHelp) {
+  wxMenuBar& bar = *frame().GetMenuBar();
+  const int at = bar.FindMenu("Tools");
+  ASSERT_NE(at, wxNOT_FOUND);
+  EXPECT_EQ(bar.GetMenuLabelText(at - 1), "Layout");
+  EXPECT_EQ(bar.GetMenuLabelText(at + 1), "Help");
+  std::vector<std::string> shown;
+  for (const wxMenuItem* item : bar.GetMenu(at)->GetMenuItems())
+    if (!item->IsSeparator())
+      shown.push_back(std::to_string(item->GetId()) + item->GetItemLabel().utf8_string());
+  std::vector<std::string> rows;
+  for (const ToolCommand& command : ToolCommands())
+    rows.push_back(std::to_string(command.id) + command.label);
+  EXPECT_EQ(shown, rows);
+}
+
+TEST_F(ToolsMenu, HasNumbersOfItsOwn) {
+  std::set<int> ids;
+  for (const Command& command : Commands()) ids.insert(command.id);
+  for (const ToolCommand& command : ToolCommands())
+    EXPECT_TRUE(ids.insert(command.id).second) << command.label;
+}
+
+TEST_F(ToolsMenu, TurnsTheSelectionToTheLeftAndToTheRight) {
+  addPiece().sel = true;
+  const std::pair<int, double> steps[] = {{kCmdTurnRight, 15.0},
+                                          {kCmdTurnRightFine, 16.0},
+                                          {kCmdTurnLeft, 1.0},
+                                          {kCmdTurnLeftFine, 0.0}};
+  for (const auto& [id, heading] : steps) {
+    command(id);
+    EXPECT_NEAR(plan().pieces[0].heading, heading, 1e-9) << id;
+  }
+  EXPECT_EQ(plan().undoHistory.size(), 4u);
+  EXPECT_TRUE(frame().dirty());
+}
+
+TEST_F(ToolsMenu, OffersTurnsOnlyWhileSomethingIsSelectedThatTheWheelWouldTurn) {
+  addPiece();
+  plan().labels.emplace_back().sel = true;
+  EXPECT_FALSE(enabled(kCmdTurnLeft));
+  EXPECT_FALSE(enabled(kCmdTurnRightFine));
+  plan().pieces[0].sel = true;
+  EXPECT_TRUE(enabled(kCmdTurnLeft));
+  EXPECT_TRUE(enabled(kCmdTurnRightFine));
+}
+
+TEST_F(ToolsMenu, EndsADragBeforeItTurnsWhatWasDragged) {
+  Piece& piece = addPiece();
+  piece.x = 200.0;
+  piece.y = 200.0;
+  showFrame();
+  dragOnCanvas({160, 140}, {200, 140});
+  command(kCmdTurnRight);
+  EXPECT_FALSE(frame().canvas().state().selectionDrag.active);
+  EXPECT_NEAR(plan().pieces[0].heading, 15.0, 1e-9);
+}
+
+TEST_F(ToolsMenu, ItsKeysReachTheCanvas) {
+  addPiece().sel = true;
+  showFrame();
+  frame().canvas().SetFocus();
+  ASSERT_TRUE(waitFor([&] { return frame().canvas().HasFocus(); }));
+  press(']');
+  EXPECT_TRUE(waitFor([&] { return plan().pieces[0].heading == 15.0; }));
+  press('[', wxMOD_SHIFT);
+  EXPECT_TRUE(waitFor([&] { return plan().pieces[0].heading == 14.0; }));
+}
+
+TEST_F(ToolsMenu, ItsKeysAreTypedIntoATextFieldThatHasTheFocus) {
+  addPiece().sel = true;
+  showFrame();
+  auto* field = new wxTextCtrl(&frame().properties(), wxID_ANY);
+  field->SetFocus();
+  ASSERT_TRUE(waitFor([&] { return field->HasFocus(); }));
+  press('[');
+  press(']');
+  press(']', wxMOD_SHIFT);
+  EXPECT_TRUE(waitFor([&] { return field->GetValue() == "[]}"; })) << field->GetValue();
+  EXPECT_EQ(plan().pieces[0].heading, 0.0);
+}
+
+}  // namespace
+}  // namespace vantrel
