@@ -1,5 +1,6 @@
 #include "doc/layout_ops.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace vantrel {
@@ -7,43 +8,73 @@ namespace {
 
 constexpr std::int32_t kLastId = std::numeric_limits<std::int32_t>::max();
 
-template <typename Record>
-void CollectIds(const std::vector<Record>& records, std::unordered_set<std::int32_t>& ids) {
-  for (const Record& record : records) ids.insert(record.id);
+template <typename Record, typename See>
+void SeeIds(const std::vector<Record>& records, See see) {
+  for (const Record& record : records) see(record.id);
 }
 
-// An id that only a dangling reference still names isn't free either: a new record would inherit
-// it.
-void CollectReferences(const Layout& layout, std::unordered_set<std::int32_t>& ids) {
+// Of all kinds but measurements.
+template <typename See>
+void SeeStoredIds(const Layout& layout, See see) {
+  SeeIds(layout.pieces, see);
+  SeeIds(layout.scenery, see);
+  SeeIds(layout.labels, see);
+  SeeIds(layout.shapes, see);
+  SeeIds(layout.tunnels, see);
+  SeeIds(layout.helices, see);
+}
+
+template <typename See>
+void SeeReferences(const Layout& layout, See see) {
   for (const Piece& piece : layout.pieces) {
-    ids.insert(piece.helix);
-    for (const Joint& joint : piece.joints) ids.insert(joint.target);
+    see(piece.helix);
+    for (const Joint& joint : piece.joints) see(joint.target);
   }
-  for (const GradeRun& run : layout.gradeRuns) ids.insert(run.anchor);
+  for (const GradeRun& run : layout.gradeRuns) see(run.anchor);
   for (const Tunnel& tunnel : layout.tunnels) {
-    ids.insert({tunnel.portalA, tunnel.portalB, tunnel.anchorA, tunnel.anchorB});
-    ids.insert(tunnel.covers.begin(), tunnel.covers.end());
+    for (const std::int32_t id : {tunnel.portalA, tunnel.portalB, tunnel.anchorA, tunnel.anchorB})
+      see(id);
+    for (const std::int32_t id : tunnel.covers) see(id);
   }
   for (const Helix& helix : layout.helices)
-    ids.insert({helix.bottomR1, helix.bottomR2, helix.topR1, helix.topR2});
+    for (const std::int32_t id : {helix.bottomR1, helix.bottomR2, helix.topR1, helix.topR2})
+      see(id);
 }
 
-std::unordered_set<std::int32_t> UsedIds(const Layout& layout) {
-  std::unordered_set<std::int32_t> used;
-  CollectIds(layout.pieces, used);
-  CollectIds(layout.scenery, used);
-  CollectIds(layout.labels, used);
-  CollectIds(layout.measurements, used);
-  CollectIds(layout.shapes, used);
-  CollectIds(layout.tunnels, used);
-  CollectIds(layout.helices, used);
-  CollectReferences(layout, used);
-  return used;
+// Every id that isn't free. One that only a dangling reference still names isn't either: a new
+// record would inherit it.
+template <typename See>
+void SeeUsedIds(const Layout& layout, See see) {
+  SeeStoredIds(layout, see);
+  SeeIds(layout.measurements, see);
+  SeeReferences(layout, see);
+}
+
+// In ascending order; none in nearly every plan.
+std::vector<std::int32_t> UsedIdsFrom(const Layout& layout, std::int32_t first) {
+  std::vector<std::int32_t> ids;
+  SeeUsedIds(layout, [&](std::int32_t id) {
+    if (id >= first) ids.push_back(id);
+  });
+  std::ranges::sort(ids);
+  return ids;
+}
+
+// Appends ids of the counter until there are `count` or it has reached its end. New and a load wind
+// the counter back, and undo and redo across them bring records with later ids back without it.
+void CountUp(Layout& layout, std::vector<std::int32_t>& ids, std::size_t count) {
+  const std::vector<std::int32_t> used = UsedIdsFrom(layout, layout.nextId);
+  auto next = used.begin();
+  for (; ids.size() < count && layout.nextId < kLastId; ++layout.nextId) {
+    while (next != used.end() && *next < layout.nextId) ++next;
+    if (next == used.end() || *next != layout.nextId) ids.push_back(layout.nextId);
+  }
 }
 
 // Appends the lowest free ids until there are `count`.
 void FillWithFreeIds(const Layout& layout, std::vector<std::int32_t>& ids, std::size_t count) {
-  const std::unordered_set<std::int32_t> used = UsedIds(layout);
+  std::unordered_set<std::int32_t> used;
+  SeeUsedIds(layout, [&](std::int32_t id) { used.insert(id); });
   for (std::int32_t id = 1; ids.size() < count; ++id)
     if (!used.contains(id)) ids.push_back(id);
 }
@@ -61,10 +92,22 @@ std::int32_t TakeId(Layout& layout) {
 
 std::vector<std::int32_t> TakeIds(Layout& layout, std::size_t count) {
   std::vector<std::int32_t> ids;
+  if (count == 0) return ids;
   ids.reserve(count);
-  while (ids.size() < count && layout.nextId < kLastId) ids.push_back(layout.nextId++);
+  CountUp(layout, ids, count);
   if (ids.size() < count) FillWithFreeIds(layout, ids, count);
   return ids;
+}
+
+void RenewTapeIds(Layout& layout) {
+  if (layout.measurements.empty()) return;
+  std::unordered_set<std::int32_t> stored;
+  SeeStoredIds(layout, [&](std::int32_t id) { stored.insert(id); });
+  std::vector<Measurement*> clashing;
+  for (Measurement& tape : layout.measurements)
+    if (stored.contains(tape.id)) clashing.push_back(&tape);
+  const std::vector<std::int32_t> ids = TakeIds(layout, clashing.size());
+  for (std::size_t i = 0; i < ids.size(); ++i) clashing[i]->id = ids[i];
 }
 
 void EnsureDefaultLevel(Layout& layout) {

@@ -11,13 +11,16 @@
 
 namespace vantrel {
 
-// The id for a new record of any kind but Level. Unique across the seven record lists; never
-// overflows: once the counter has reached the largest id, the lowest free one is searched for.
+// The id for a new record of any kind but Level: the next of the counter that no record of the
+// seven lists holds or names, whatever undo has brought back. Never overflows: once the counter has
+// reached the largest id, the lowest free one is searched for. Costs a walk over all records.
 std::int32_t TakeId(Layout& layout);
 
-// The ids for `count` new records, as TakeId would give them out one by one; a single search when
-// the counter has reached its end.
+// The ids for `count` new records, as TakeId would give them out one by one, for a single walk.
 std::vector<std::int32_t> TakeIds(Layout& layout, std::size_t count);
+
+// Measuring tapes outlive a load, whose records may hold their ids: such a tape gets a new one.
+void RenewTapeIds(Layout& layout);
 
 // With no levels at all, appends "Level 1" (id 1, visible, height 0, colour 180, 200, 220). Leaves
 // activeLevel alone.

@@ -69,4 +69,12 @@ void ClearContents(Layout& layout) {
   ResetGrades(layout);
 }
 
+void StartNewPlan(Layout& layout) {
+  ClearContents(layout);
+  layout.baseboard.clear();
+  layout.levels.clear();
+  EnsureDefaultLevel(layout);
+  layout.activeLevel = 1;
+}
+
 }  // namespace vantrel

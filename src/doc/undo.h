@@ -25,4 +25,8 @@ void Redo(Layout& layout);
 // lastShape and the view settings stay.
 void ClearContents(Layout& layout);
 
+// An empty plan: ClearContents, one default level, no baseboard. It is undone as far as a snapshot
+// reaches.
+void StartNewPlan(Layout& layout);
+
 }  // namespace vantrel

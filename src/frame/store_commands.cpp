@@ -82,12 +82,7 @@ void MainFrame::newLayout() {
   canvas_->endGestures();
   if (!ConfirmDiscard()) return;
   canvas_->dropDrafts();
-  ClearContents(layout_);
-  layout_.baseboard.clear();
-  layout_.levels.clear();
-  EnsureDefaultLevel(layout_);
-  layout_.activeLevel = 1;
-  ResetGrades(layout_);
+  StartNewPlan(layout_);
   currentPath_.clear();
   dirty_ = false;
   SetTitle(kProgramTitle);
@@ -164,6 +159,7 @@ void MainFrame::LoadIntoFrame(const std::string& path) {
   }
   canvas_->dropDrafts();
   GrowAllJoints(layout_);
+  RenewTapeIds(layout_);
   EnsureDefaultLevel(layout_);
   currentPath_ = path;
   layoutName_ = name;

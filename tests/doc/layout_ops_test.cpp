@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+#include "doc/undo.h"
+
 namespace vantrel {
 namespace {
 
@@ -77,6 +79,75 @@ TEST(TakeIds, GivesTheLastOnesOfTheCounterAndThenTheLowestFreeOnes) {
   EXPECT_EQ(TakeIds(layout, 5),
             (std::vector<std::int32_t>{kLargestId - 2, kLargestId - 1, 2, 4, 5}));
   EXPECT_EQ(layout.nextId, kLargestId);
+}
+
+// Where the counter stands when New or a load wound it back and undo brought the records back.
+TEST(TakeId, PassesOverTheIdsOfEachKindThatUndoBroughtBack) {
+  const auto taken = [](auto put) {
+    Layout layout;
+    put(layout);
+    return TakeId(layout);
+  };
+  EXPECT_EQ(taken([](Layout& plan) { plan.pieces = {PieceWithId(2), PieceWithId(1)}; }), 3);
+  EXPECT_EQ(taken([](Layout& plan) { plan.scenery = {{.id = 1}, {.id = 2}}; }), 3);
+  EXPECT_EQ(taken([](Layout& plan) { plan.labels = {{.id = 2}, {.id = 1}}; }), 3);
+  EXPECT_EQ(taken([](Layout& plan) { plan.measurements = {{.id = 1}, {.id = 2}}; }), 3);
+  EXPECT_EQ(taken([](Layout& plan) { plan.shapes = {{.id = 2}, {.id = 1}}; }), 3);
+  EXPECT_EQ(taken([](Layout& plan) { plan.tunnels = {{.id = 1}, {.id = 2}}; }), 3);
+  EXPECT_EQ(taken([](Layout& plan) { plan.helices = {{.id = 2}, {.id = 1}}; }), 3);
+}
+
+TEST(TakeId, TakesNoIdTwiceWhenThePlanBeforeNewComesBack) {
+  Layout layout;
+  layout.pieces = {PieceWithId(TakeId(layout)), PieceWithId(TakeId(layout))};
+  StartNewPlan(layout);
+  Undo(layout);
+  EXPECT_EQ(layout.nextId, 1) << "the counter is no part of history";
+  EXPECT_EQ(TakeId(layout), 3);
+  EXPECT_EQ(TakeIds(layout, 2), (std::vector<std::int32_t>{4, 5}));
+}
+
+TEST(TakeIds, PassesOverWhatIsHeldAndNamedInTheMiddleOfTheWay) {
+  Layout layout;
+  layout.nextId = 4;
+  layout.scenery = {{.id = 9}, {.id = 6}, {.id = 2}};
+  // Nothing holds 7 any more, but its old neighbour still names it.
+  layout.pieces = {PieceWithId(3)};
+  layout.pieces[0].joints = {{.target = 7, .tconn = 0}};
+  EXPECT_EQ(TakeIds(layout, 4), (std::vector<std::int32_t>{4, 5, 8, 10}));
+  EXPECT_EQ(layout.nextId, 11);
+}
+
+TEST(TakeIds, LeavesTheCounterAloneWhereNoRecordHoldsALaterId) {
+  Layout layout;
+  layout.nextId = 40;
+  layout.pieces = {PieceWithId(39)};
+  EXPECT_EQ(TakeId(layout), 40) << "an id is not given out again while the plan is open";
+  layout.pieces = {PieceWithId(60)};
+  EXPECT_TRUE(TakeIds(layout, 0).empty());
+  EXPECT_EQ(layout.nextId, 41);
+}
+
+TEST(TakeIds, SearchesTheLowestFreeIdOnceARecordHoldsTheLastOfAll) {
+  Layout layout;
+  layout.nextId = kLargestId - 1;
+  layout.pieces = {PieceWithId(kLargestId), PieceWithId(kLargestId - 1), PieceWithId(1)};
+  EXPECT_EQ(TakeIds(layout, 2), (std::vector<std::int32_t>{2, 3}));
+}
+
+TEST(RenewTapeIds, GivesATapeWhoseIdAReadRecordHoldsANewOneAndLeavesTheOthers) {
+  Layout layout;
+  layout.measurements = {{.id = 2, .startX = 10.0}, {.id = 9, .startX = 20.0}, {.id = 3}};
+  layout.pieces = {PieceWithId(1), PieceWithId(2)};
+  layout.helices = {{.id = 3}};
+  layout.nextId = 4;  // as a reader leaves it: it doesn't count the tapes
+  RenewTapeIds(layout);
+  ASSERT_EQ(layout.measurements.size(), 3u);
+  EXPECT_EQ(layout.measurements[0].id, 4);
+  EXPECT_EQ(layout.measurements[0].startX, 10.0);
+  EXPECT_EQ(layout.measurements[1].id, 9);
+  EXPECT_EQ(layout.measurements[2].id, 5);
+  EXPECT_EQ(TakeIds(layout, 4), (std::vector<std::int32_t>{6, 7, 8, 10}));
 }
 
 TEST(EnsureDefaultLevel, AppendsTheBlueGreyFirstLevelToNone) {

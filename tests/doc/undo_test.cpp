@@ -215,6 +215,25 @@ TEST(ClearContents, StartsTheIdsAnewWhileASnapshotStillHoldsAPieceWithId1) {
   EXPECT_EQ(layout.pieces[0].x, 100.0);
 }
 
+TEST(StartNewPlan, LeavesOneDefaultLevelAndNoBaseboardButTheSettings) {
+  Layout layout;
+  AddPiece(layout, 100.0);
+  layout.levels = {{.id = 4, .name = "Attic"}, {.id = 7}};
+  layout.activeLevel = 7;
+  layout.baseboard = {{0.0, 0.0}, {900.0, 0.0}, {900.0, 600.0}};
+  layout.gradeRuns = {{.deg = 2.0, .anchor = 1, .conn = 0}};
+  SyncCurrentGrade(layout);
+  layout.units = kInches;
+  StartNewPlan(layout);
+  EXPECT_EQ(StateOf(layout), UndoSnapshot{});
+  ASSERT_EQ(layout.levels.size(), 1u);
+  EXPECT_EQ(layout.levels[0].name, "Level 1");
+  EXPECT_EQ(layout.activeLevel, 1);
+  EXPECT_TRUE(layout.baseboard.empty());
+  EXPECT_EQ(layout.units, kInches);
+  EXPECT_EQ(layout.undoHistory.size(), 1u);
+}
+
 TEST(ClearContents, EmptiesAllRecordsInOneUndoStepAndKeepsTheSettings) {
   Layout layout;
   EnsureDefaultLevel(layout);

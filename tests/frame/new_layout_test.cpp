@@ -192,5 +192,65 @@ TEST_F(NewLayout, KeepsTheOldNameForTheNextSaveAndTheNextTitle) {
   EXPECT_EQ(title(), "Vantrel v1.5 by Kelmor - Old *");
 }
 
+// The straight lies from (0, 0) to (188.3, 0): under the first view its middle is 38 pixels right
+// of (60, 60).
+class AfterAnotherPlan : public NewLayout {
+ protected:
+  void layTwoJoined() {
+    Piece first{.id = 1, .cat = "24188", .joints = {{}, {.target = 2, .tconn = 0}}};
+    Piece second{.id = 2, .cat = "24188", .x = 188.3, .joints = {{.target = 1, .tconn = 1}, {}}};
+    plan().pieces = {first, second};
+    plan().nextId = 3;
+  }
+  // The middle of the second straight is at 282.45: 60 + 0.4 * 282.45 = 172.98.
+  void doubleClickOnTheSecond() {
+    mouseOnCanvas(wxEVT_LEFT_DOWN, {173, 60}, true);
+    mouseOnCanvas(wxEVT_LEFT_UP, {173, 60}, false);
+    mouseOnCanvas(wxEVT_LEFT_DCLICK, {173, 60}, true);
+    mouseOnCanvas(wxEVT_LEFT_UP, {173, 60}, false);
+  }
+  void expectAThirdAndTheJointsWhole() {
+    ASSERT_EQ(plan().pieces.size(), 3u);
+    EXPECT_EQ(plan().pieces[2].id, 3);
+    EXPECT_EQ(plan().pieces[0].joints, (std::vector<Joint>{{}, {.target = 2, .tconn = 0}}));
+    EXPECT_EQ(plan().pieces[1].joints,
+              (std::vector<Joint>{{.target = 1, .tconn = 1}, {.target = 3, .tconn = 0}}));
+  }
+};
+
+TEST_F(AfterAnotherPlan, NewAndUndoADoubleClickLaysAPieceWithAnIdOfItsOwn) {
+  layTwoJoined();
+  showFrame();
+  command(5002);
+  command(2002);
+  doubleClickOnTheSecond();
+  expectAThirdAndTheJointsWhole();
+}
+
+TEST_F(AfterAnotherPlan, OpenAndUndoADoubleClickLaysAPieceWithAnIdOfItsOwn) {
+  // The file has a piece 1 alone, so that the counter stands at 2.
+  WriteFileText(inStore("other.vtl"), LayoutText("other"));
+  layTwoJoined();
+  showFrame();
+  plan().undoHistory.emplace_back().pieces = plan().pieces;
+  frame().LoadIntoFrame(inStore("other.vtl"));
+  ASSERT_EQ(plan().nextId, 2);
+  command(2002);
+  frame().canvas().resetView();
+  doubleClickOnTheSecond();
+  expectAThirdAndTheJointsWhole();
+}
+
+TEST_F(AfterAnotherPlan, OpenATapeThatStaysDoesNotShareItsIdWithAPieceOfTheFile) {
+  WriteFileText(inStore("other.vtl"), LayoutText("other"));
+  plan().measurements = {{.id = 1, .startX = 5.0, .endX = 400.0}};
+  frame().LoadIntoFrame(inStore("other.vtl"));
+  ASSERT_EQ(plan().pieces.size(), 1u);
+  ASSERT_EQ(plan().measurements.size(), 1u);
+  EXPECT_EQ(plan().pieces[0].id, 1);
+  EXPECT_EQ(plan().measurements[0].id, 2);
+  EXPECT_EQ(plan().measurements[0].endX, 400.0);
+}
+
 }  // namespace
 }  // namespace vantrel

@@ -30,8 +30,14 @@ namespace {
 constexpr std::size_t kManyPieces = 60;
 
 // How often each edit is tried, in the order of Edit.
-constexpr std::array<std::size_t, EditSession::kEdits> kWeights = {14, 6, 6, 14, 4, 4, 4, 4, 12, 3,
-                                                                   3,  6, 2, 1,  6, 4, 2, 7, 1};
+constexpr std::array<std::size_t, EditSession::kEdits> kWeights = {
+    14, 6, 6, 14, 4, 4, 4, 4, 12, 3, 3, 6, 2, 1, 6, 4, 2, 3, 2, 3, 3, 7, 1};
+
+// So many saved plans are kept to be opened again.
+constexpr std::size_t kFiles = 4;
+
+// What a reader makes of any red while a level doesn't colour its track.
+constexpr std::uint8_t kReadRed = 0;
 
 std::string TextOf(const Layout& layout) {
   return LayoutText(layout, "Session");
@@ -40,13 +46,14 @@ std::string TextOf(const Layout& layout) {
 }  // namespace
 
 const std::array<std::string_view, EditSession::kEdits> EditSession::kEditNames = {
-    "place",  "auto-connect", "clone",       "select", "copy",  "paste",         "delete",
-    "join",   "drag",         "rotate",      "turn",   "grade", "place scenery", "place helix",
-    "tunnel", "autofill",     "place block", "undo",   "redo"};
+    "place",         "auto-connect", "clone",  "select",   "copy",        "paste",
+    "delete",        "join",         "drag",   "rotate",   "turn",        "grade",
+    "place scenery", "place helix",  "tunnel", "autofill", "place block", "annotate",
+    "new",           "save",         "open",   "undo",     "redo"};
 
 EditSession::EditSession(unsigned seed) : random_(seed) {
   EnsureDefaultLevel(layout);
-  layout.levels[0].r = 0;  // what a reader makes of any red while a level doesn't colour its track
+  layout.levels[0].r = kReadRed;
   beginStretch();
 }
 
@@ -66,7 +73,10 @@ void EditSession::step() {
     record();
   }
   const std::size_t depth = layout.undoHistory.size();
-  done[edit] += run(edit) ? 1 : 0;
+  const bool isDone = run(edit);
+  done[edit] += isDone ? 1 : 0;
+  stepsAcrossPlans += isDone && anotherPlan_ && (edit == kUndo || edit == kRedo) ? 1 : 0;
+  anotherPlan_ = isDone && (edit == kNew || edit == kOpen);
   if (edit == kUndo || edit == kRedo) {
     complaint_ = differenceHere(kEditNames[edit]);
     return;
@@ -77,6 +87,7 @@ void EditSession::step() {
 }
 
 EditSession::Edit EditSession::chooseEdit() {
+  if (anotherPlan_ && below(4) > 0) return kUndo;
   if (!layout.redoHistory.empty() && below(2) == 0) return kRedo;
   std::size_t total = 0;
   for (const std::size_t weight : kWeights) total += weight;
@@ -131,6 +142,16 @@ bool EditSession::run(Edit edit) {
       return autofill();
     case kBlock:
       return block();
+    case kAnnotate:
+      return annotate();
+    case kNew:
+      return startNew();
+    case kSave:
+      if (files_.size() == kFiles) files_.erase(files_.begin());
+      files_.push_back(TextOf(layout));
+      return true;
+    case kOpen:
+      return open();
     case kUndo:
       return stepBack();
     case kRedo:
@@ -231,6 +252,46 @@ bool EditSession::block() {
     piece.free = false;
   }
   return placeBlock(layout, std::move(block));
+}
+
+// A tape, a polygon or a label, as the tools and the panel lay them.
+bool EditSession::annotate() {
+  const Vec2 at = anyPoint();
+  PushUndo(layout);
+  const std::int32_t id = TakeId(layout);
+  switch (below(3)) {
+    case 0:
+      layout.measurements.push_back({.id = id, .startX = at.x, .startY = at.y});
+      break;
+    case 1:
+      layout.shapes.push_back({.id = id, .vertices = {at, {at.x + 90.0, at.y}, {at.x, 70.0}}});
+      break;
+    default:
+      layout.labels.push_back({.id = id, .text = "Yard", .x = at.x, .y = at.y});
+      break;
+  }
+  return true;
+}
+
+bool EditSession::startNew() {
+  StartNewPlan(layout);
+  layout.levels[0].r = kReadRed;
+  return true;
+}
+
+// A load keeps the grades in force, whose anchors then stand nowhere: who wants none of them takes
+// New first.
+bool EditSession::open() {
+  if (files_.empty()) return false;
+  if (!layout.gradeRuns.empty()) {
+    startNew();
+    record();
+  }
+  std::string name;
+  ReadLayoutText(layout, files_[below(files_.size())], "session.vtl", name);
+  GrowAllJoints(layout);
+  RenewTapeIds(layout);
+  return true;
 }
 
 bool EditSession::remove() {

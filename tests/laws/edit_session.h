@@ -57,15 +57,21 @@ class EditSession {
     kTunnel,
     kAutofill,
     kBlock,
+    kAnnotate,
+    kNew,
+    kSave,
+    kOpen,
     kUndo,
     kRedo,
     kEdits
   };
   static const std::array<std::string_view, kEdits> kEditNames;
 
-  // How often each edit found something to work on; and how many drops snapped.
+  // How often each edit found something to work on; how many drops snapped; how often Undo or Redo
+  // followed New or Open at once.
   std::array<int, kEdits> done{};
   int snappedDrops = 0;
+  int stepsAcrossPlans = 0;
 
  private:
   std::size_t below(std::size_t limit) { return random_() % limit; }
@@ -88,6 +94,9 @@ class EditSession {
   bool tunnel();
   bool autofill();
   bool block();
+  bool annotate();
+  bool startNew();
+  bool open();
   bool stepBack();
   bool stepForward();
 
@@ -96,6 +105,8 @@ class EditSession {
 
   std::mt19937 random_;
   Clipboard clipboard_;
+  std::vector<std::string> files_;  // the last few plans that were saved
+  bool anotherPlan_ = false;        // the last edit was New or Open
   std::vector<std::string> texts_;  // by depth of the undo history; empty where unknown
   std::string complaint_;
   bool records_ = false;

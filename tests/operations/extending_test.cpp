@@ -7,6 +7,7 @@
 #include "canvas/operations/elevation.h"
 #include "canvas/operations/grades.h"
 #include "canvas/operations/joining.h"
+#include "canvas/operations/placing.h"
 #include "doc/undo.h"
 #include "tests/operations/plan_support.h"
 
@@ -245,6 +246,48 @@ TEST(ClonePiece, SurvivesAPieceThatNoNumberPlaces) {
   CloneOf(layout, piece);
   EXPECT_EQ(layout.pieces.size(), 2u);
   EXPECT_EQ(BrokenJoint(layout), "");
+}
+
+// Two joined straights, 1 and 2, that undo has brought back from before New: the counter stands
+// at 1.
+Layout StraightsFromBeforeNew() {
+  Layout layout;
+  const std::int32_t first = LayPiece(layout, "24188", {});
+  const std::int32_t second = LayPiece(layout, "24188", {188.3, 0.0, 0.0});
+  joinPieces(layout, first, 1, second, 0);
+  StartNewPlan(layout);
+  Undo(layout);
+  return layout;
+}
+
+void ExpectStraightsStillJoined(Layout& layout) {
+  EXPECT_EQ(JointOf(layout, 1, 1), (Joint{.target = 2, .tconn = 0}));
+  EXPECT_EQ(JointOf(layout, 2, 0), (Joint{.target = 1, .tconn = 1}));
+  EXPECT_EQ(BrokenJoint(layout), "");
+}
+
+TEST(Ids, AfterNewAndUndoACloneGetsOneOfItsOwn) {
+  Layout layout = StraightsFromBeforeNew();
+  EXPECT_EQ(CloneOf(layout, 2), 3);
+  EXPECT_EQ(JointOf(layout, 2, 1), (Joint{.target = 3, .tconn = 0}));
+  ExpectStraightsStillJoined(layout);
+}
+
+TEST(Ids, AfterNewAndUndoAPartOfThePaletteGetsOneOfItsOwn) {
+  Layout layout = StraightsFromBeforeNew();
+  PieceOf(layout, 2).sel = true;
+  EXPECT_EQ(autoConnectPart(layout, "24130"), 3);
+  EXPECT_TRUE(PieceOf(layout, 3).sel);
+  EXPECT_FALSE(PieceOf(layout, 1).sel);
+  ExpectStraightsStillJoined(layout);
+}
+
+TEST(Ids, AfterNewAndUndoAFreeDropGetsOneOfItsOwnSoThatItIsTheOneSelected) {
+  Layout layout = StraightsFromBeforeNew();
+  const std::int32_t id = placePiece(layout, *findPart("24130"), {}, {0.0, 700.0, 0.0});
+  EXPECT_EQ(id, 3);
+  EXPECT_EQ(PieceOf(layout, id).cat, "24130");
+  ExpectStraightsStillJoined(layout);
 }
 
 }  // namespace
