@@ -102,9 +102,9 @@ Pose Way::at(double distance) const {
 
 std::size_t WayCount(const PieceDef& def) {
   switch (def.kind) {
-    case PieceKind::LeftTurnout:
-    case PieceKind::RightTurnout:
+    case PieceKind::LeftTurnout:  // also every three-way
       return def.connectors.size() >= kThreeWayConnectors ? 3 : 2;
+    case PieceKind::RightTurnout:
     case PieceKind::CurvedTurnout:
     case PieceKind::OuterCurveTurnout:
     case PieceKind::Crossing:

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "catalog/piece_def.h"
+#include "catalog/routes.h"
 #include "doc/vec2.h"
 #include "doc/view_transform.h"
 
@@ -39,22 +39,12 @@ struct BedFrame {
 };
 BedFrame MakeBedFrame(const Pose& pose);
 
-// What a bed's outline depends on, so that a variation needs no copy of a definition.
-struct BedMeasures {
-  double length = 0.0;     // mm, of the straight bed
-  double radius = 0.0;     // mm
-  double sweep = 0.0;      // degrees, signed: positive bends to the right
-  double halfWidth = 0.0;  // mm
-};
+// The frame of a stretch of the piece at `piece`.
+BedFrame FrameOf(const Stretch& stretch, const BedFrame& piece);
 
-// The measures of a definition's straight route and of its arc on `route` 1, 2 or 3. A turnout's
-// branch is cut where it would run past the turnout's own length; a three-way's other branch isn't.
-BedMeasures measuresOf(const PieceDef& def, int route);
-
-// Both replace what `points` held. The arc falls back to the straight bed below a radius of 1 mm.
-void makeStraightBed(BedPoints& points, const BedFrame& frame, const BedMeasures& measures,
-                     const ViewTransform& view);
-void makeArcBed(BedPoints& points, const BedFrame& frame, const BedMeasures& measures,
-                const ViewTransform& view);
+// Replaces what `points` held by the bed of a stretch of the piece at `piece`, a straight one of
+// four points, an arc's as ArcBedPolygon tells.
+void makeStretchBed(BedPoints& points, const BedFrame& piece, const Stretch& stretch,
+                    double halfWidth, const ViewTransform& view);
 
 }  // namespace vantrel

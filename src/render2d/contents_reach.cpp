@@ -6,6 +6,7 @@
 
 #include "catalog/connector_geometry.h"
 #include "catalog/piece_builders.h"
+#include "catalog/routes.h"
 #include "render2d/track_drawing.h"
 
 namespace vantrel {
@@ -16,8 +17,6 @@ namespace {
 constexpr double kMarkReachMm = 18.0;
 // The arch of a curved bridge: half its width as a part of the radius, and a little for the pen.
 constexpr double kCurvedArchPart = 0.25;
-// Between the ends of a curved turnout that has too few connectors to tell.
-constexpr double kCurvedTurnoutShiftMm = 77.5;
 constexpr double kArcSampleDegrees = 5.0;
 // What has a smallest size in pixels, such as a dot or the bar of a track end, and rounding.
 constexpr int kPixelExtra = 7;
@@ -29,24 +28,17 @@ class CentreLines {
     low_ = {std::min(low_.x, point.x), std::min(low_.y, point.y)};
     high_ = {std::max(high_.x, point.x), std::max(high_.y, point.y)};
   }
-  void takeInStraight(const Pose& from, double length) {
-    takeIn({from.x, from.y});
-    takeIn(LocalToWorld(from, {length, 0.0}));
-  }
-  // Without a radius an arc is drawn as a straight.
-  void takeInArc(const Pose& from, const PieceDef& def, double sweep) {
-    if (def.radius < 1.0) return takeInStraight(from, def.length);
-    const int samples = 1 + static_cast<int>(std::abs(sweep) / kArcSampleDegrees);
-    const double side = sweep < 0.0 ? -1.0 : 1.0;
+  void takeIn(const Stretch& stretch) {
+    const int samples =
+        stretch.isArc() ? 1 + static_cast<int>(std::abs(stretch.sweep) / kArcSampleDegrees) : 1;
     for (int i = 0; i <= samples; ++i) {
-      const double t = Radians(std::abs(sweep) * i / samples);
-      takeIn(
-          LocalToWorld(from, {def.radius * std::sin(t), side * def.radius * (1.0 - std::cos(t))}));
+      const Pose pose = stretch.at(static_cast<double>(i) / samples);
+      takeIn(Vec2{pose.x, pose.y});
     }
   }
   void takeInSquare(double half) {
-    takeIn({-half, -half});
-    takeIn({half, half});
+    takeIn(Vec2{-half, -half});
+    takeIn(Vec2{half, half});
   }
 
   PieceReach reach(double clearance) const {
@@ -65,57 +57,19 @@ class CentreLines {
   Vec2 high_;
 };
 
-// The second route of a crossing or a slip starts at connector 2.
-void TakeInCrossingRoute(CentreLines& lines, const PieceDef& def) {
-  const auto& ends = def.connectors;
-  if (ends.size() < 3) return;
-  const Pose start{ends[2].x, ends[2].y, def.angle};
-  if (ends.size() >= 4)
-    lines.takeInStraight(start, std::hypot(ends[3].x - ends[2].x, ends[3].y - ends[2].y));
-  if (def.kind == PieceKind::DoubleSlip) lines.takeInArc(start, def, -def.angle);
-}
-
-void TakeInRoutes(CentreLines& lines, const PieceDef& def) {
-  const auto& ends = def.connectors;
-  if (def.kind == PieceKind::Curve) return lines.takeInArc({}, def, def.angle);
-  // Also where the part number stands on the other kinds.
-  lines.takeInStraight({}, def.length);
-  switch (def.kind) {
-    case PieceKind::LeftTurnout:
-    case PieceKind::RightTurnout:
-      lines.takeInArc({}, def, def.angle);
-      lines.takeInArc({}, def, -def.angle);
-      return;
-    case PieceKind::CurvedTurnout: {
-      const double shift =
-          ends.size() < 3 ? kCurvedTurnoutShiftMm : std::abs(ends[2].x - ends[1].x);
-      lines.takeInArc({}, def, def.angle);
-      lines.takeInArc({shift, 0.0, 0.0}, def, def.angle);
-      return;
-    }
-    case PieceKind::OuterCurveTurnout:
-      lines.takeInArc({}, def, def.angle);
-      lines.takeInArc({def.length, 0.0, 0.0}, def, def.angle);
-      return;
-    case PieceKind::DoubleSlip:
-      lines.takeInArc({}, def, def.angle);
-      TakeInCrossingRoute(lines, def);
-      return;
-    case PieceKind::Crossing:
-      TakeInCrossingRoute(lines, def);
-      return;
-    case PieceKind::Turntable:
-      lines.takeInSquare(std::max(std::abs(def.length) / 2.0, std::abs(def.radius)));
-      return;
-    default:
-      return;
-  }
+void TakeInWays(CentreLines& lines, const PieceDef& def) {
+  if (def.kind == PieceKind::Turntable)
+    lines.takeInSquare(std::max(std::abs(def.length) / 2.0, std::abs(def.radius)));
+  // Where the part number stands on all kinds but curves, also where no track is.
+  if (def.kind != PieceKind::Curve) lines.takeIn(StraightOf(def));
+  for (std::size_t i = 0; i < WayCount(def); ++i)
+    for (const Stretch& stretch : WayOf(def, i).stretches()) lines.takeIn(stretch);
 }
 
 PieceReach ComputePieceReach(const PieceDef& def) {
   CentreLines lines;
-  TakeInRoutes(lines, def);
-  for (const Connector& end : def.connectors) lines.takeIn({end.x, end.y});
+  TakeInWays(lines, def);
+  for (const Connector& end : def.connectors) lines.takeIn(Vec2{end.x, end.y});
   double clearance = bedHalfWidth(def) + kMarkReachMm;
   // Arches stay upright on the device whatever the piece's heading.
   if (def.isBridge)

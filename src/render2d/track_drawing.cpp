@@ -25,13 +25,11 @@ constexpr int kBold = 700;
 constexpr int kSmallestDotRadius = 3;  // pixels
 constexpr int kDotRimLightness = 70;   // per cent of the dot's own colour
 
-// The middle of the piece's centre line, in its own frame.
+// The middle of the straight that every kind has; of a curve's arc.
 Vec2 LabelAnchor(const PieceDef& def) {
-  if (def.kind != PieceKind::Curve || !(def.radius > 0.0)) return {def.length / 2.0, 0.0};
-  const bool left = def.angle < 0.0;
-  const double t = Radians(left ? def.angle / 2.0 + 90.0 : def.angle / 2.0 - 90.0);
-  const double centreY = left ? -def.radius : def.radius;
-  return {std::cos(t) * def.radius, std::sin(t) * def.radius + centreY};
+  const bool onArc = def.kind == PieceKind::Curve && def.radius > 0.0;
+  const Pose middle = (onArc ? ArcOf(def, {}, def.angle) : StraightOf(def)).at(0.5);
+  return {middle.x, middle.y};
 }
 
 // Keeps the face and style of the device's font. Set once for all pieces of a paint, since the next

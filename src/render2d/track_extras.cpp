@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "catalog/piece_builders.h"
+#include "catalog/routes.h"
 #include "render2d/track_drawing.h"
 #include "render2d/track_paint.h"
 
@@ -44,23 +45,17 @@ void DrawStraightArch(const TrackPaint& paint) {
            heading + 180.0, heading + 360.0);
 }
 
-// To which side a curve bends: -1 to the left, 1 to the right.
-double BendSign(const PieceDef& def) {
-  return def.connectors.size() >= 2 && def.connectors[1].y < 0.0 ? -1.0 : 1.0;
-}
-
-// The middle of a curve's centre line.
+// The middle of a curve's centre line. What stands on a curve goes to the side of its far end.
 wxPoint ArcMiddle(const TrackPaint& paint) {
-  const double h = Radians(std::abs(paint.def.angle) / 2.0);
-  const double r = paint.def.radius;
-  const Vec2 local{std::sin(h) * r, (1.0 - std::cos(h)) * r * BendSign(paint.def)};
-  return DevicePointOf(paint.view, paint.frame.toWorld(local));
+  const double sweep = SideOfConnector(paint.def, 1) * std::abs(paint.def.angle);
+  const Pose middle = ArcOf(paint.def, {}, sweep).at(0.5);
+  return DevicePointOf(paint.view, paint.frame.toWorld({middle.x, middle.y}));
 }
 
 void DrawCurvedArch(const TrackPaint& paint) {
   const int r = scaledLength(paint.view, paint.def.radius * kCurvedArchShare);
   const wxPoint middle = ArcMiddle(paint);
-  const double start = BendSign(paint.def) * 90.0 + paint.frame.heading;
+  const double start = SideOfConnector(paint.def, 1) * 90.0 + paint.frame.heading;
   DrawArch(paint, kCurvedArchAlpha, {middle.x - r, middle.y - r / 3, 2 * r, 2 * r / 3}, start,
            start + 180.0);
 }

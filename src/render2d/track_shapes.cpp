@@ -11,8 +11,7 @@
 namespace vantrel {
 namespace {
 
-constexpr int kOutlineWidth = 1;               // pixels at any scale
-constexpr double kDefaultCurveShiftMm = 77.5;  // of a curved turnout without a third connector
+constexpr int kOutlineWidth = 1;            // pixels at any scale
 constexpr double kDivergingGhostMm = 5.0;   // a curved turnout's ends lie further aside than this
 constexpr double kStraightThroughMm = 1.0;  // a slip's first route ends nearer the axis than this
 constexpr PieceKind kUnnamedStraightKind{7};
@@ -23,92 +22,68 @@ BedPoints& ScratchBuffer(std::size_t which) {
   return buffers[which];
 }
 
-void FillStraight(const TrackPaint& paint, const BedFrame& frame, const BedMeasures& measures,
-                  Rgb8 colour) {
+void DrawStretch(const TrackPaint& paint, const Stretch& stretch, Rgb8 colour) {
   BedPoints& points = ScratchBuffer(0);
-  makeStraightBed(points, frame, measures, paint.view);
+  makeStretchBed(points, paint.frame, stretch, bedHalfWidth(paint.def), paint.view);
   FillBedPolygon(paint.dc, points, ToColour(colour), ToColour(paint.colours.outline),
                  paint.view.pixels(kOutlineWidth));
 }
 
-void FillArc(const TrackPaint& paint, const BedFrame& frame, const BedMeasures& measures,
-             Rgb8 colour) {
-  BedPoints& points = ScratchBuffer(0);
-  makeArcBed(points, frame, measures, paint.view);
-  FillBedPolygon(paint.dc, points, ToColour(colour), ToColour(paint.colours.outline),
-                 paint.view.pixels(kOutlineWidth));
+void DrawWay(const TrackPaint& paint, std::size_t way, Rgb8 colour) {
+  for (const Stretch& stretch : WayOf(paint.def, way).stretches())
+    DrawStretch(paint, stretch, colour);
 }
 
 void DrawStraightBed(const TrackPaint& paint, Rgb8 colour) {
-  FillStraight(paint, paint.frame, measuresOf(paint.def, 1), colour);
-}
-
-void DrawRoute(const TrackPaint& paint, int route, Rgb8 colour) {
-  FillArc(paint, paint.frame, measuresOf(paint.def, route), colour);
-}
-
-// At connector 2, heading along the route that crosses the piece's own at `def.angle`.
-BedFrame CrossingFrame(const TrackPaint& paint) {
-  const Connector& from = paint.def.connectors[2];
-  const Vec2 at = paint.frame.toWorld({from.x, from.y});
-  return MakeBedFrame({at.x, at.y, normalizeDegrees(paint.frame.heading + paint.def.angle)});
+  DrawStretch(paint, StraightOf(paint.def), colour);
 }
 
 // The straight from connector 2 to connector 3; nothing without them.
 void DrawCrossingStraight(const TrackPaint& paint, Rgb8 colour) {
-  if (paint.def.connectors.size() < 4) return;
-  const Connector& from = paint.def.connectors[2];
-  const Connector& to = paint.def.connectors[3];
-  BedMeasures measures = measuresOf(paint.def, 1);
-  measures.length = std::hypot(to.x - from.x, to.y - from.y);
-  FillStraight(paint, CrossingFrame(paint), measures, colour);
+  if (paint.def.connectors.size() >= 4) DrawWay(paint, 1, colour);
 }
 
+// What branches lies on the straight of a simple turnout, and under that of a three-way.
 void DrawTurnout(const TrackPaint& paint) {
   const Rgb8 branch = branchColour(paint.colours.fill);
-  if (paint.def.kind == PieceKind::LeftTurnout && paint.def.connectors.size() >= 4) {
-    DrawRoute(paint, 2, branch);
-    DrawRoute(paint, 3, branch);
-    DrawStraightBed(paint, paint.colours.fill);
+  if (WayCount(paint.def) < 3) {
+    DrawWay(paint, 0, paint.colours.fill);
+    DrawWay(paint, 1, branch);
     return;
   }
+  DrawWay(paint, 1, branch);
+  DrawWay(paint, 2, branch);
+  DrawWay(paint, 0, paint.colours.fill);
+}
+
+// The curves of a ghost that diverge: without the straight lead before the outer one, and that
+// where its connector lies, also behind the inner one's.
+void DrawShiftedArcs(const TrackPaint& paint) {
+  const std::vector<Connector>& ends = paint.def.connectors;
+  const Pose shifted{ends[2].x - ends[1].x, 0.0, 0.0};
+  DrawWay(paint, 0, paint.colours.fill);
+  DrawStretch(paint, ArcOf(paint.def, shifted, paint.def.angle), branchColour(paint.colours.fill));
+}
+
+// A ghost whose curves hardly diverge shows its straight instead of the lead, and a second curve
+// from the origin.
+void DrawBundledArcs(const TrackPaint& paint) {
   DrawStraightBed(paint, paint.colours.fill);
-  DrawRoute(paint, 2, branch);
-}
-
-// The arc of the piece at its pose, and the same arc `shift` mm further on.
-void DrawShiftedArcs(const TrackPaint& paint, double shift) {
-  const BedMeasures arc = measuresOf(paint.def, 1);
-  FillArc(paint, paint.frame, arc, paint.colours.fill);
-  FillArc(paint, paint.frame.movedTo(paint.frame.ahead(shift)), arc,
-          branchColour(paint.colours.fill));
-}
-
-// Two parallel arcs, a straight link before the outer one.
-void DrawLinkedArcs(const TrackPaint& paint, double shift) {
-  const Rgb8 branch = branchColour(paint.colours.fill);
-  const BedMeasures arc = measuresOf(paint.def, 1);
-  BedMeasures link = arc;
-  link.length = shift;
-  FillArc(paint, paint.frame, arc, paint.colours.fill);
-  FillStraight(paint, paint.frame, link, branch);
-  FillArc(paint, paint.frame.movedTo(paint.frame.ahead(shift)), arc, branch);
+  DrawWay(paint, 0, paint.colours.fill);
+  DrawStretch(paint, ArcOf(paint.def, {}, RouteSweep(paint.def, 2)),
+              branchColour(paint.colours.fill));
 }
 
 void DrawCurvedTurnout(const TrackPaint& paint) {
   const std::vector<Connector>& ends = paint.def.connectors;
-  const bool hasBothEnds = ends.size() >= 3;
   if (!paint.isGhost()) {
-    DrawLinkedArcs(paint, hasBothEnds ? std::abs(ends[2].x - ends[1].x) : kDefaultCurveShiftMm);
-    return;
+    DrawWay(paint, 0, paint.colours.fill);
+    DrawWay(paint, 1, branchColour(paint.colours.fill));
+  } else if (ends.size() >= 3 && std::abs(ends[1].y) > kDivergingGhostMm) {
+    DrawShiftedArcs(paint);
+  } else {
+    DrawBundledArcs(paint);
   }
-  if (hasBothEnds && std::abs(ends[1].y) > kDivergingGhostMm) {
-    DrawShiftedArcs(paint, ends[2].x - ends[1].x);
-    return;
-  }
-  DrawStraightBed(paint, paint.colours.fill);
-  DrawRoute(paint, 1, paint.colours.fill);
-  DrawRoute(paint, 2, branchColour(paint.colours.fill));
 }
 
 void DrawSegment(wxDC& dc, const wxPoint& from, const wxPoint& to) {
@@ -129,14 +104,13 @@ void StrokeLens(wxDC& dc, const BedPoints& a, const BedPoints& b) {
 
 void DrawSlipArcs(const TrackPaint& paint) {
   const wxColour slip = ToColour(slipColour(paint.colours.fill, paint.isGhost()));
-  BedMeasures arc = measuresOf(paint.def, 1);
+  const double halfWidth = bedHalfWidth(paint.def);
   BedPoints& a = ScratchBuffer(0);
   BedPoints& b = ScratchBuffer(1);
-  makeArcBed(a, paint.frame, arc, paint.view);
+  makeStretchBed(a, paint.frame, WayOf(paint.def, 2).parts[0], halfWidth, paint.view);
   FillBedPolygon(paint.dc, a, slip, slip, 0);
   if (paint.def.connectors.size() < 3) return;
-  arc.sweep = -arc.sweep;
-  makeArcBed(b, CrossingFrame(paint), arc, paint.view);
+  makeStretchBed(b, paint.frame, WayOf(paint.def, 3).parts[0], halfWidth, paint.view);
   FillBedPolygon(paint.dc, b, slip, slip, 0);
   setSolidPen(paint.dc, ToColour(paint.colours.outline), paint.view.pixels(kOutlineWidth));
   StrokeLens(paint.dc, a, b);
@@ -151,14 +125,6 @@ void DrawDoubleSlip(const TrackPaint& paint) {
   if (paint.def.radius > 0.0) DrawSlipArcs(paint);
 }
 
-void DrawOuterCurveTurnout(const TrackPaint& paint) {
-  const Rgb8 branch = branchColour(paint.colours.fill);
-  const BedMeasures measures = measuresOf(paint.def, 1);
-  FillArc(paint, paint.frame, measures, paint.colours.fill);
-  FillStraight(paint, paint.frame, measures, branch);
-  FillArc(paint, paint.frame.movedTo(paint.frame.ahead(measures.length)), measures, branch);
-}
-
 }  // namespace
 
 void drawTrackShape(const TrackPaint& paint) {
@@ -170,7 +136,7 @@ void drawTrackShape(const TrackPaint& paint) {
       drawStraightExtras(paint);
       return;
     case PieceKind::Curve:
-      DrawRoute(paint, 1, fill);
+      DrawWay(paint, 0, fill);
       drawCurveExtras(paint);
       return;
     case PieceKind::LeftTurnout:
@@ -191,7 +157,8 @@ void drawTrackShape(const TrackPaint& paint) {
       drawTurntable(paint);
       return;
     case PieceKind::OuterCurveTurnout:
-      DrawOuterCurveTurnout(paint);
+      DrawWay(paint, 0, fill);
+      DrawWay(paint, 1, branchColour(fill));
       return;
   }
   DrawStraightBed(paint, fill);

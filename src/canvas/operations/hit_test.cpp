@@ -8,6 +8,7 @@
 #include "canvas/operations/point_tests.h"
 #include "catalog/helix_kits.h"
 #include "catalog/piece_builders.h"
+#include "catalog/routes.h"
 #include "catalog/scenery_catalog.h"
 #include "catalog/track_catalog.h"
 #include "doc/layout_ops.h"
@@ -40,11 +41,6 @@ double HalfWidth(const PieceDef& def) {
 bool OnStraight(const PieceDef& def, Vec2 local, double halfWidth) {
   return Within(local.x, -kAllowanceMm, def.length + kAllowanceMm) &&
          Within(local.y, -halfWidth, halfWidth);
-}
-
-// +1 when an arc of this piece bends to the right, -1 to the left.
-double BendSide(const PieceDef& def) {
-  return def.angle >= 0.0 ? 1.0 : -1.0;
 }
 
 bool OnRing(const PieceDef& def, Vec2 local, double centreX) {
@@ -141,6 +137,8 @@ bool OnScenery(const SceneryItem& item, Vec2 world) {
 
 }  // namespace
 
+// Not the ways of the piece: a turnout is hit on its straight alone, a curved one of the C family
+// too, and a press beside their branches takes nothing.
 bool hitTestPieceShape(const Piece& piece, const PieceDef& def, Vec2 world) {
   if (def.kind == PieceKind::Turntable)
     return std::hypot(world.x - piece.x, world.y - piece.y) <= def.length / 2.0 + kTurntableRimMm;

@@ -6,7 +6,7 @@
 
 #include "canvas/operations/selection.h"
 #include "catalog/connector_geometry.h"
-#include "catalog/piece_builders.h"
+#include "catalog/routes.h"
 #include "catalog/track_catalog.h"
 #include "doc/layout_ops.h"
 
@@ -77,17 +77,13 @@ bool Meets(const Band& band, const ViewTransform& view, const Piece& piece) {
   });
 }
 
-// From the local origin about the centre beside it.
-std::vector<Vec2> CentreArc(const Piece& piece, const PieceDef& def) {
-  const double side = def.angle >= 0.0 ? 1.0 : -1.0;
-  const double sweep = std::abs(def.angle);
-  const int steps = std::max(6, DeviceInt(sweep / 5.0));
+std::vector<Vec2> CentreArc(const Piece& piece, const Stretch& arc) {
+  const int steps = std::max(6, DeviceInt(std::abs(arc.sweep) / 5.0));
   std::vector<Vec2> points;
   points.reserve(static_cast<std::size_t>(steps) + 1);
   for (int i = 0; i <= steps; ++i) {
-    const double turned = Radians(sweep * i / steps);
-    points.push_back(LocalToWorld(piece.pose(), {def.radius * std::sin(turned),
-                                                 side * def.radius * (1.0 - std::cos(turned))}));
+    const Pose pose = arc.at(static_cast<double>(i) / steps);
+    points.push_back(LocalToWorld(piece.pose(), {pose.x, pose.y}));
   }
   return points;
 }
@@ -97,8 +93,10 @@ std::vector<Vec2> CentreArc(const Piece& piece, const PieceDef& def) {
 std::vector<std::vector<Vec2>> pieceOutlineSegments(const Piece& piece, const PieceDef& def) {
   const Vec2 origin{piece.x, piece.y};
   std::vector<std::vector<Vec2>> lines;
+  // Not the ways of the piece: a band catches a turnout by its arc and by the straight line to its
+  // branch's end.
   if (def.radius > 0.0 && def.angle != 0.0)
-    lines.push_back(CentreArc(piece, def));
+    lines.push_back(CentreArc(piece, ArcOf(def, {}, def.angle)));
   else
     lines.push_back({origin, LocalToWorld(piece.pose(), {def.length, 0.0})});
   if (def.connectors.size() >= 3) {

@@ -4,7 +4,8 @@
 #include <cmath>
 #include <limits>
 
-#include "catalog/piece_builders.h"
+#include "catalog/connector_geometry.h"
+#include "catalog/routes.h"
 #include "catalog/track_catalog.h"
 
 namespace vantrel {
@@ -43,10 +44,11 @@ PrintBounds boundsOfPrint(const Layout& layout, const PrintOptions& options) {
     if (options.allLevels == 0 && piece.level != layout.activeLevel) continue;
     const PieceDef* def = findPart(piece.cat);
     if (def == nullptr) continue;
+    // Of every kind the straight, also where the track bends or branches aside.
+    const Pose end = StraightOf(*def).at(1.0);
+    const Vec2 worldEnd = LocalToWorld(piece.pose(), {end.x, end.y});
     Extend(bounds, piece.x, piece.y);
-    const double heading = Radians(piece.heading);
-    Extend(bounds, piece.x + def->length * std::cos(heading),
-           piece.y + def->length * std::sin(heading));
+    Extend(bounds, worldEnd.x, worldEnd.y);
   }
   for (const SceneryItem& item : layout.scenery) Extend(bounds, item.x, item.y);
   if (options.includeBaseboard)

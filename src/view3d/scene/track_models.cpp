@@ -5,74 +5,73 @@
 #include <cstddef>
 #include <vector>
 
+#include "catalog/connector_geometry.h"
 #include "catalog/piece_builders.h"
+#include "catalog/routes.h"
 #include "view3d/scene/structures.h"
 
 namespace vantrel {
 namespace {
 
-Path Straight(double x0, double y0, double x1, double y1) {
-  return StraightPath(x0, y0, x1, y1, StraightSegments(std::hypot(x1 - x0, y1 - y0)));
+Path PathOf(const Stretch& stretch) {
+  const Pose& start = stretch.start;
+  if (!stretch.isArc()) {
+    const Pose end = stretch.at(1.0);
+    return StraightPath(start.x, start.y, end.x, end.y, StraightSegments(stretch.length));
+  }
+  const double side = stretch.sweep < 0.0 ? -1.0 : 1.0;
+  const Vec2 centre = LocalToWorld(start, {0.0, side * stretch.radius});
+  return ArcPath(centre.x, centre.y, stretch.radius, start.heading - side * 90.0, stretch.sweep,
+                 ArcSegments(stretch.sweep));
 }
 
-Path MainRoute(const PieceDef& def) {
-  return Straight(0, 0, def.length, 0);
-}
-
-bool HasConnectors(const PieceDef& def, std::size_t count) {
-  return def.connectors.size() >= count;
-}
-
-// From `startX`, along x, with the part's radius and angle to the side of this connector.
-Path Arc(const PieceDef& def, double startX, std::size_t connector) {
-  const bool isLeft = HasConnectors(def, connector + 1) && def.connectors[connector].y < 0.0;
-  const double side = isLeft ? -1.0 : 1.0;
-  return ArcPath(startX, side * def.radius, def.radius, -side * 90.0, side * std::abs(def.angle),
-                 ArcSegments(def.angle));
+// From connector to connector, which the flat drawing's angle only nearly meets.
+Path CrossingPath(const PieceDef& def) {
+  const Connector& from = def.connectors[2];
+  const Connector& to = def.connectors[3];
+  const double length = std::hypot(to.x - from.x, to.y - from.y);
+  return StraightPath(from.x, from.y, to.x, to.y, StraightSegments(length));
 }
 
 using Routes = std::vector<Path>;
 
-Routes CurveRoutes(const PieceDef& def) {
-  if (!(def.radius > 0.0)) return {};
-  return {Arc(def, 0.0, 1)};
-}
-
-Routes TurnoutRoutes(const PieceDef& def) {
-  Routes routes{MainRoute(def)};
-  if (!(def.radius > 0.0)) return routes;
-  if (HasConnectors(def, 3)) routes.push_back(Arc(def, 0.0, 2));
-  if (HasConnectors(def, 4)) routes.push_back(Arc(def, 0.0, 3));
+Routes CrossingRoutes(const PieceDef& def) {
+  Routes routes{PathOf(StraightOf(def))};
+  if (def.connectors.size() >= 4) routes.push_back(CrossingPath(def));
   return routes;
 }
 
-// The outer arc is the inner one pushed along by a straight lead; left and right mirror each other.
-Routes CurvedTurnoutRoutes(const PieceDef& def) {
-  const bool bends = def.radius > 0.0;
-  Routes routes;
-  if (bends && HasConnectors(def, 2)) routes.push_back(Arc(def, 0.0, 1));
-  if (!HasConnectors(def, 3)) return routes;
-  const double reach = def.radius * std::sin(std::abs(Radians(def.angle)));
-  const double lead = std::max(0.0, def.connectors[2].x - reach);
-  if (lead > 0.0) routes.push_back(Straight(0, 0, lead, 0));
-  if (bends) routes.push_back(Arc(def, lead, 2));
+// The model's arcs run over the whole angle of the part, also where the flat drawing cuts a short
+// turnout's branch at its length, and to the side of their connector.
+void AddArc(Routes& routes, const PieceDef& def, double startX, std::size_t connector) {
+  if (!(def.radius > 0.0) || connector >= def.connectors.size()) return;
+  const double sweep = SideOfConnector(def, connector) * std::abs(def.angle);
+  routes.push_back(PathOf(ArcOf(def, {startX, 0.0, 0.0}, sweep)));
+}
+
+Routes TurnoutRoutes(const PieceDef& def) {
+  Routes routes{PathOf(StraightOf(def))};
+  AddArc(routes, def, 0.0, 2);
+  AddArc(routes, def, 0.0, 3);
   return routes;
 }
 
 Routes OuterCurveRoutes(const PieceDef& def) {
-  Routes routes{MainRoute(def)};
-  if (!(def.radius > 0.0)) return routes;
-  if (HasConnectors(def, 2)) routes.push_back(Arc(def, 0.0, 1));
-  if (HasConnectors(def, 3)) routes.push_back(Arc(def, def.length, 2));
+  Routes routes{PathOf(StraightOf(def))};
+  AddArc(routes, def, 0.0, 1);
+  AddArc(routes, def, def.length, 2);
   return routes;
 }
 
-Routes CrossingRoutes(const PieceDef& def) {
-  Routes routes{MainRoute(def)};
-  if (!HasConnectors(def, 4)) return routes;
-  const Connector& from = def.connectors[2];
-  const Connector& to = def.connectors[3];
-  routes.push_back(Straight(from.x, from.y, to.x, to.y));
+// The outer arc's lead is what its connector lies beyond the arc's own reach.
+Routes CurvedTurnoutRoutes(const PieceDef& def) {
+  Routes routes;
+  AddArc(routes, def, 0.0, 1);
+  if (def.connectors.size() < 3) return routes;
+  const double reach = def.radius * std::sin(std::abs(Radians(def.angle)));
+  const double lead = std::max(0.0, def.connectors[2].x - reach);
+  if (lead > 0.0) routes.push_back(PathOf({.start = {}, .length = lead}));
+  AddArc(routes, def, lead, 2);
   return routes;
 }
 
@@ -82,16 +81,18 @@ Routes DoubleSlipRoutes(const PieceDef& def) {
   Routes routes = CrossingRoutes(def);
   if (!(def.radius > 0.0)) return routes;
   const double sweep = std::abs(def.angle);
-  const int segments = ArcSegments(def.angle);
-  routes.push_back(ArcPath(0.0, def.radius, def.radius, -90.0, sweep, segments));
-  routes.push_back(ArcPath(def.length, -def.radius, def.radius, 90.0, sweep, segments));
+  routes.push_back(PathOf(ArcOf(def, {}, sweep)));
+  routes.push_back(PathOf(ArcOf(def, {def.length, 0.0, 180.0}, sweep)));
   return routes;
 }
 
 Routes RoutesOf(const PieceDef& def) {
   switch (def.kind) {
-    case PieceKind::Curve:
-      return CurveRoutes(def);
+    case PieceKind::Curve: {
+      Routes routes;
+      AddArc(routes, def, 0.0, 1);
+      return routes;
+    }
     case PieceKind::LeftTurnout:
     case PieceKind::RightTurnout:
       return TurnoutRoutes(def);
@@ -104,7 +105,7 @@ Routes RoutesOf(const PieceDef& def) {
     case PieceKind::DoubleSlip:
       return DoubleSlipRoutes(def);
     default:
-      return {MainRoute(def)};
+      return {PathOf(StraightOf(def))};
   }
 }
 
