@@ -48,7 +48,7 @@ struct ViewTransform {
     return {(device.x - offsetX) / scale, (device.y - offsetY) / scale};
   }
 
-  // Pixels per mm: what decides whether details are shown, and how big texts are.
+  // Pixels per mm: what decides how big texts are.
   constexpr double pixelScale() const { return scale / pixel; }
   // `count` pixels in device units, truncated; never nothing for one or more.
   constexpr int pixels(int count) const {
@@ -56,7 +56,7 @@ struct ViewTransform {
     return count > 0 && units < 1 ? 1 : units;
   }
   // A screen's point size on this device. The limit only keeps the text engine from overflowing.
-  constexpr int fontPoints(int points) const {
+  constexpr int fontPoints(double points) const {
     constexpr int kMostPoints = 4000;
     const int scaled = DeviceInt(points * fontScale + 0.5);
     return scaled < 1 ? 1 : scaled > kMostPoints ? kMostPoints : scaled;

@@ -24,7 +24,7 @@ constexpr int kShaftPenWidth = 3;
 const wxColour kDownColour(30, 100, 200);
 const wxColour kUpColour(220, 100, 20);
 
-constexpr double kSlopeTextScale = 0.25;
+constexpr double kSlopeTextScale = 0.25;  // dots of the device per mm
 constexpr double kSlopePointsPerScale = 8.0;
 constexpr int kSmallestSlopePoints = 7;
 constexpr int kSlopeTextRight = 4;  // pixels, from the tip
@@ -81,7 +81,7 @@ void DrawSlope(ContentsPaint& paint, const Arrow& arrow, const wxColour& colour,
 
 void DrawGradeArrows(ContentsPaint& paint) {
   if (paint.layout.gradeRuns.empty()) return;
-  const bool withText = paint.view.pixelScale() >= kSlopeTextScale;
+  const bool withText = paint.view.scale >= kSlopeTextScale;
   const wxFont font =
       PlanFont(paint.view,
                PlanFontSize(paint.view.pixelScale() * kSlopePointsPerScale, kSmallestSlopePoints),

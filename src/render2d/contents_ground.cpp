@@ -22,7 +22,7 @@ const wxColour kGridColour(220, 220, 215);
 const wxColour kOriginColour(180, 180, 220);
 constexpr int kOriginPenWidth = 2;
 constexpr int kOriginArm = 10;        // pixels
-constexpr double kFinestPitch = 6.0;  // pixels
+constexpr double kFinestPitch = 6.0;  // dots of the device, which a page has more of
 constexpr double kCoarsestPitch = 400.0;
 
 constexpr double kShortestLabelledEdgeMm = 10.0;
@@ -132,9 +132,8 @@ void DrawDecks(ContentsPaint& paint) {
 
 void DrawGrid(ContentsPaint& paint) {
   const double pitch = paint.layout.gridSize * paint.view.scale;
-  const double pixel = paint.view.pixel;
   if (!paint.layout.gridVisible) return;
-  if (!(pitch >= kFinestPitch * pixel && pitch <= kCoarsestPitch * pixel)) return;
+  if (!(pitch >= kFinestPitch && pitch <= kCoarsestPitch)) return;
   const auto [width, height] = paint.size;
   paint.dc.SetPen(wxPen(kGridColour, paint.view.pixels(1)));
   const GridLines columns = LinesAcross(paint.view.offsetX, pitch, width);

@@ -17,11 +17,6 @@ namespace {
 
 constexpr std::string_view kSpokeExtension = "74871";
 
-// From which scale on pieces show their part numbers, and in which size.
-constexpr double kPartNumberScale = 0.2;
-constexpr double kPartNumberPointsPerScale = 9.0;
-constexpr int kSmallestPartNumberPoints = 6;
-
 PieceIds CoveredPieces(const Layout& layout) {
   PieceIds covered;
   for (const Tunnel& tunnel : layout.tunnels)
@@ -34,7 +29,7 @@ class TrackView {
  public:
   explicit TrackView(ContentsPaint& paint)
       : paint_(paint),
-        partNumbers_(paint.layout.labelsVisible && paint.view.pixelScale() >= kPartNumberScale) {
+        partNumbers_(paint.layout.labelsVisible && paint.view.scale >= kTrackDetailScale) {
     // In the font that the pieces will take, so that a part number is measured once in a paint.
     if (partNumbers_) UsePartNumberFont();
   }
@@ -70,8 +65,7 @@ class TrackView {
 void TrackView::UsePartNumberFont() {
   wxFont font = paint_.dc.GetFont();
   if (!font.IsOk()) font = *wxNORMAL_FONT;
-  font.SetPointSize(paint_.view.fontPoints(PlanFontSize(
-      paint_.view.pixelScale() * kPartNumberPointsPerScale, kSmallestPartNumberPoints)));
+  font.SetPointSize(PartNumberPoints(paint_.view));
   font.SetWeight(wxFONTWEIGHT_BOLD);
   paint_.dc.SetFont(font);
 }

@@ -16,14 +16,18 @@
 namespace vantrel {
 namespace {
 
-constexpr double kSmallestDetailScale = 0.2;  // pixels per mm: below, no numbers and no dots
-constexpr double kLabelPoints = 9.0;          // at scale 1
-constexpr int kSmallestLabelPoints = 6;
+constexpr double kLabelPoints = 9.0;  // at scale 1
+// Or as many for a pixel of a mm, if those are fewer: what six are at a fifth of one. The same
+// holds for the dots' three pixels.
+constexpr double kSmallestLabelPoints = 6.0;
+constexpr double kLeastPointsPerScale = kSmallestLabelPoints / kTrackDetailScale;
 // Only keeps the toolkit alive at absurd scales: finer pages than 5,000 dots per inch don't exist.
-constexpr int kLargestLabelPoints = 2000;
+constexpr double kLargestLabelPoints = 2000.0;
 constexpr int kBold = 700;
+constexpr double kDotRadiusMm = 2.5;
 constexpr int kSmallestDotRadius = 3;  // pixels
-constexpr int kDotRimLightness = 70;   // per cent of the dot's own colour
+constexpr double kLeastDotRadiusMm = kSmallestDotRadius / kTrackDetailScale;
+constexpr int kDotRimLightness = 70;  // per cent of the dot's own colour
 
 // The middle of the straight that every kind has; of a curve's arc.
 Vec2 LabelAnchor(const PieceDef& def) {
@@ -46,11 +50,9 @@ void UseLabelFont(wxDC& dc, int points) {
 }
 
 void DrawPartNumber(const RenderContext& context, const TrackPaint& paint) {
-  if (!(paint.view.pixelScale() >= kSmallestDetailScale)) return;
+  if (!(paint.view.scale >= kTrackDetailScale)) return;
   wxDC& dc = paint.dc;
-  const int points = std::clamp(DeviceInt(kLabelPoints * paint.view.pixelScale()),
-                                kSmallestLabelPoints, kLargestLabelPoints);
-  UseLabelFont(dc, paint.view.fontPoints(points));
+  UseLabelFont(dc, PartNumberPoints(paint.view));
   dc.SetTextForeground(ToColour(paint.selected ? kSelectedOutline : kLabelText));
   dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
   TextExtents own;
@@ -58,6 +60,13 @@ void DrawPartNumber(const RenderContext& context, const TrackPaint& paint) {
   const MeasuredText& number = MeasureText(extents, dc, paint.def.partNumber);
   const wxPoint anchor = DevicePointOf(paint.view, paint.frame.toWorld(LabelAnchor(paint.def)));
   dc.DrawText(number.text, anchor.x - number.size.x / 2, anchor.y - number.size.y / 2);
+}
+
+// Never fewer than three dots of the device.
+int DotRadius(const ViewTransform& view) {
+  const int least =
+      std::min(view.pixels(kSmallestDotRadius), DeviceInt(view.scale * kLeastDotRadiusMm));
+  return std::max({kSmallestDotRadius, least, DeviceInt(view.scale * kDotRadiusMm)});
 }
 
 bool GhostShowsDots(PieceKind kind) {
@@ -76,6 +85,13 @@ bool GhostShowsDots(PieceKind kind) {
 
 }  // namespace
 
+int PartNumberPoints(const ViewTransform& view) {
+  const double scale = view.pixelScale();
+  const double least = std::min(kSmallestLabelPoints, kLeastPointsPerScale * scale);
+  const double whole = DeviceInt(kLabelPoints * scale);
+  return view.fontPoints(std::clamp(whole, least, kLargestLabelPoints));
+}
+
 void setSolidPen(wxDC& dc, const wxColour& colour, int width) {
   dc.SetPen(wxPen(colour, width));
 }
@@ -90,8 +106,8 @@ int scaledLength(const ViewTransform& view, double mm) {
 
 void drawDots(wxDC& dc, const BedFrame& frame, const Piece* piece, const PieceDef& def,
               const ViewTransform& view) {
-  if (!(view.pixelScale() >= kSmallestDetailScale)) return;
-  const int radius = std::max(view.pixels(kSmallestDotRadius), DeviceInt(view.scale * 5.0 * 0.5));
+  if (!(view.scale >= kTrackDetailScale)) return;
+  const int radius = DotRadius(view);
   bool first = true;
   bool before = false;
   for (std::size_t i = 0; i < def.connectors.size(); ++i) {

@@ -29,6 +29,14 @@ void DrawTrackPiece(const RenderContext& context, wxDC& dc, const Piece& piece, 
 // simpler shapes for two kinds.
 void DrawTrackGhost(wxDC& dc, const PieceDef& def, const Pose& pose, const ViewTransform& view);
 
+// From which scale on pieces show their part numbers and dots: dots of the device per mm. A fine
+// page has many dots for a piece that is small, so below a fifth of a pixel for a mm, where a
+// screen shows neither, numbers and dots shrink with their piece.
+inline constexpr double kTrackDetailScale = 0.2;
+
+// The size of part numbers in the device's points.
+int PartNumberPoints(const ViewTransform& view);
+
 // A dot at each connector, green when joined, orange when free. Nothing below scale 0.2.
 void DrawJoinDots(wxDC& dc, const Piece& piece, const PieceDef& def, const ViewTransform& view);
 

@@ -232,6 +232,7 @@ TEST_F(PrintedLayout, GridAndBaseboardAreDrawnOnlyWhenIncluded) {
   dc_.forget();
   options_.includeGrid = true;
   options_.includeBaseboard = false;
+  plan_.gridSize = 10;  // without the board 188.3 mm fill 3036 dots: 32 mm would be beyond 400 dots
   printout().OnPreparePrinting();
   printout().OnPrintPage(1);
   EXPECT_GT(countOfPen(gridPen), 0U);
@@ -310,6 +311,29 @@ TEST_F(PrintedLayout, ATextIsAsHighOnPaperAsOnThisScreenAtEveryResolution) {
     ASSERT_EQ(texts.size(), 1U) << dpi;
     // A recorded text of 48 points is an inch high, which 96 pixels are.
     EXPECT_NEAR(texts[0].font.pointSize, height / 2.0, 1.0) << dpi;
+  }
+}
+
+TEST_F(PrintedLayout, HasPartNumbersFromAFifthOfADotForAMillimetreOn) {
+  struct Expected {
+    int scaleN;
+    int dpi;
+    std::size_t numbers;
+  };
+  // One piece lies on the active level. 300 / 25.4 / 59 = 0.2002 and 600 / 25.4 / 118 = 0.2002 dots
+  // for a mm; one step further it is 0.1969 and 0.1985.
+  for (const Expected& expected :
+       {Expected{10, 300, 1}, Expected{20, 300, 1}, Expected{40, 300, 1}, Expected{59, 300, 1},
+        Expected{60, 300, 0}, Expected{40, 600, 1}, Expected{118, 600, 1}, Expected{119, 600, 0}}) {
+    options_.mode = kActualScale;
+    options_.scaleN = expected.scaleN;
+    LayoutPrintout out(plan_, options_);
+    dc_.forget();
+    setUp(out, 297 * expected.dpi * 10 / 254, 210 * expected.dpi * 10 / 254, expected.dpi);
+    out.OnPreparePrinting();
+    EXPECT_TRUE(out.OnPrintPage(1));
+    EXPECT_EQ(dc_.texts("24188").size(), expected.numbers)
+        << "1:" << expected.scaleN << " at " << expected.dpi;
   }
 }
 

@@ -1,4 +1,5 @@
-// On a page of many dots an inch a plan looks as it does on a screen, only finer.
+// On a page of many dots an inch a plan looks as it does on a screen, only finer; and because it is
+// finer, details are shown down to smaller scales.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -117,8 +118,9 @@ void ExpectAlike(const DrawCall& screen, const DrawCall& page) {
 
 class PlanOnAPage : public testing::TestWithParam<double> {};
 
-// With part numbers and without, and at a scale at which nothing has its smallest size any more.
-INSTANTIATE_TEST_SUITE_P(Scales, PlanOnAPage, testing::Values(0.15, 0.4, 0.8));
+// From the scale on at which a screen shows all details, up to one at which nothing has its
+// smallest size any more.
+INSTANTIATE_TEST_SUITE_P(Scales, PlanOnAPage, testing::Values(0.25, 0.4, 0.8));
 
 TEST_P(PlanOnAPage, LooksAsItDoesOnAScreenWithTenDotsForAPixel) {
   const Layout plan = RichPlan();
@@ -132,6 +134,77 @@ TEST_P(PlanOnAPage, LooksAsItDoesOnAScreenWithTenDotsForAPixel) {
     SCOPED_TRACE(testing::Message() << i << ": " << screen[i] << "\n" << page[i]);
     ExpectAlike(screen[i], page[i]);
   }
+}
+
+// So many dots for a mm, ten dots for a pixel, and texts ten times as large for it.
+std::vector<DrawCall> OnFinePage(const Layout& plan, double scale) {
+  return Painted(plan, {scale, 60.0, 30.0, kDots, kDots}, {12000, 7000});
+}
+
+Layout OneStraight() {
+  Layout plan;
+  plan.gridVisible = false;
+  Piece piece;
+  piece.id = 1;
+  piece.cat = "24188";
+  plan.pieces = {piece};
+  return plan;
+}
+
+std::vector<int> DotRadii(const std::vector<DrawCall>& calls) {
+  std::vector<int> radii;
+  for (const DrawCall& call : calls)
+    if (call.isCircle()) radii.push_back(call.box.width / 2);
+  return radii;
+}
+
+TEST(PlanOnAFinePage, ShowsPartNumbersAndDotsFromAFifthOfADotForAMillimetreOn) {
+  EXPECT_TRUE(Texts(OnFinePage(OneStraight(), 0.199), "24188").empty());
+  EXPECT_TRUE(DotRadii(OnFinePage(OneStraight(), 0.199)).empty());
+  EXPECT_EQ(Texts(OnFinePage(OneStraight(), 0.2), "24188").size(), 1u);
+  EXPECT_EQ(DotRadii(OnFinePage(OneStraight(), 0.2)).size(), 2u);
+}
+
+TEST(PlanOnAFinePage, NumbersAndDotsShrinkWithTheirPieceWhereAScreenHasNoneAnyMore) {
+  const auto points = [](double scale) {
+    const std::vector<DrawCall> texts = Texts(OnFinePage(OneStraight(), scale), "24188");
+    return texts.empty() ? 0 : texts[0].font.pointSize;
+  };
+  // 6 points at a fifth of a pixel for a mm, which are 2 dots: 60 of the page's own. Half of it at
+  // half the scale. A tenth of it is as small as the page's own six points.
+  EXPECT_EQ(points(6.0), 60);
+  EXPECT_EQ(points(2.0), 60);
+  EXPECT_EQ(points(1.0), 30);
+  EXPECT_EQ(points(0.2), 6);
+  // 3 pixels are 30 dots, half of them 15; never fewer than 3 dots.
+  EXPECT_EQ(DotRadii(OnFinePage(OneStraight(), 6.0)), (std::vector<int>{30, 30}));
+  EXPECT_EQ(DotRadii(OnFinePage(OneStraight(), 1.0)), (std::vector<int>{15, 15}));
+  EXPECT_EQ(DotRadii(OnFinePage(OneStraight(), 0.2)), (std::vector<int>{3, 3}));
+}
+
+TEST(PlanOnAFinePage, HasAGridWhoseLinesStandSixToFourHundredDotsApart) {
+  Layout plan;
+  plan.gridVisible = true;
+  plan.gridSize = 32.0;
+  const auto lines = [&plan](double scale) {
+    return OfOp(OnFinePage(plan, scale), DrawOp::line).size();
+  };
+  EXPECT_EQ(lines(0.1874), 0u);  // 5.997 dots
+  EXPECT_GT(lines(0.1875), 0u);
+  EXPECT_GT(lines(12.5), 0u);
+  EXPECT_EQ(lines(12.51), 0u);
+  // They themselves are a pixel wide.
+  EXPECT_EQ(OfOp(OnFinePage(plan, 1.0), DrawOp::line).front().pen.width, kDots);
+}
+
+TEST(PlanOnAFinePage, TellsSlopesFromAQuarterOfADotForAMillimetreOn) {
+  Layout plan = OneStraight();
+  GradeRun run;
+  run.deg = 2.5;
+  run.anchor = 1;
+  plan.gradeRuns = {run};
+  EXPECT_TRUE(Texts(OnFinePage(plan, 0.249), "+2.5 deg").empty());
+  EXPECT_EQ(Texts(OnFinePage(plan, 0.25), "+2.5 deg").size(), 1u);
 }
 
 TEST(PixelsOfAView, AreNeverNothingAndOneForOneOnAScreen) {
