@@ -1,4 +1,5 @@
 #include "canvas/resize_scenery_dialog.h"
+#include "app/services/number_entry.h"
 #include "app/services/wx_text.h"
 
 #include <wx/button.h>
@@ -61,6 +62,9 @@ ResizeSceneryDialog::ResizeSceneryDialog(wxWindow* parent, SceneryFootprint size
   CentreOnParent();
 
   width_->Bind(wxEVT_SPINCTRLDOUBLE, &ResizeSceneryDialog::onWidth, this);
+  for (wxSpinCtrlDouble* spin : {width_, depth_}) WatchNumberEntry(*spin);
+  Bind(
+      wxEVT_BUTTON, [this](wxCommandEvent&) { accept(); }, wxID_OK);
   Bind(
       wxEVT_BUTTON, [this](wxCommandEvent&) { EndModal(wxID_RESET); }, wxID_RESET);
 }
@@ -86,6 +90,15 @@ wxSpinCtrlDouble* ResizeSceneryDialog::addRow(wxSizer& column, const wxString& c
 
 void ResizeSceneryDialog::onWidth(wxSpinDoubleEvent& event) {
   if (locked_->GetValue()) depth_->SetValue(event.GetValue() / startRatio_);
+}
+
+void ResizeSceneryDialog::accept() {
+  for (wxSpinCtrlDouble* spin : {width_, depth_})
+    if (IsMarkedRefused(*spin)) {
+      spin->SetFocus();  // which takes the mark away: the number that stays has been seen
+      return;
+    }
+  EndModal(wxID_OK);
 }
 
 SceneryScale ResizeSceneryDialog::scale() const {

@@ -23,6 +23,7 @@ class ResizeSceneryDialog : public wxDialog {
  private:
   wxSpinCtrlDouble* addRow(wxSizer& column, const wxString& caption, double factor, double sizeMm);
   void onWidth(wxSpinDoubleEvent& event);
+  void accept();
 
   const SceneryScale start_;
   SceneryScale shown_;       // what the spins made of it

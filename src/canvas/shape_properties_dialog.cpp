@@ -1,4 +1,5 @@
 #include "canvas/shape_properties_dialog.h"
+#include "app/services/number_entry.h"
 #include "app/services/wx_text.h"
 
 #include <wx/checkbox.h>
@@ -52,6 +53,8 @@ ShapePropertiesDialog::ShapePropertiesDialog(wxWindow* parent, const ShapeProper
   column->Add(CreateButtonSizer(wxOK | wxCANCEL), 0, wxALL | wxEXPAND, kMargin);
   SetSizerAndFit(column);
   CentreOnParent();
+  Bind(
+      wxEVT_BUTTON, [this](wxCommandEvent&) { accept(); }, wxID_OK);
   name_->SetFocus();
 }
 
@@ -74,6 +77,7 @@ void ShapePropertiesDialog::addColourRow(wxSizer& column) {
   opacity_ = new wxSpinCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
                             wxSP_ARROW_KEYS, 0, 100, start_.opacityPercent);
   WidenTo(*opacity_, kOpacityWidth);
+  WatchNumberEntry(*opacity_);
   row->Add(opacity_, 0, wxLEFT | wxALIGN_CENTRE_VERTICAL, kMargin);
   column.Add(row, 0, wxLEFT | wxRIGHT | wxTOP, kMargin);
 }
@@ -89,8 +93,18 @@ void ShapePropertiesDialog::addHeightRow(wxSizer& column, std::int32_t units) {
   height_->SetValue(start_.height / mmPerUnit_);
   WidenTo(*height_, height_->GetBestSize().GetWidth());
   shownHeight_ = height_->GetValue();
+  WatchNumberEntry(*height_);
   row->Add(height_, 0, wxLEFT | wxALIGN_CENTRE_VERTICAL, kMargin);
   column.Add(row, 0, wxLEFT | wxRIGHT | wxTOP, kMargin);
+}
+
+void ShapePropertiesDialog::accept() {
+  for (wxWindow* field : {static_cast<wxWindow*>(opacity_), static_cast<wxWindow*>(height_)})
+    if (IsMarkedRefused(*field)) {
+      field->SetFocus();  // which takes the mark away: the number that stays has been seen
+      return;
+    }
+  EndModal(wxID_OK);
 }
 
 ShapeProperties ShapePropertiesDialog::properties() const {

@@ -27,6 +27,7 @@ class ShapePropertiesDialog : public wxDialog {
   void addNameRow(wxSizer& column);
   void addColourRow(wxSizer& column);
   void addHeightRow(wxSizer& column, std::int32_t units);
+  void accept();
 
   const ShapeProperties start_;
   double mmPerUnit_ = 1.0;

@@ -13,6 +13,7 @@
 #include <optional>
 #include <string>
 
+#include "app/services/number_entry.h"
 #include "app/services/wx_text.h"
 #include "dialogs/message_boxes.h"
 
@@ -155,12 +156,16 @@ void LayoutShapeDialog::addSpinRow(std::size_t index, const char* caption, std::
            wxALIGN_CENTRE_VERTICAL);
   pageSizer_->Add(row, 0, wxTOP, kGap);
   spins_[index] = spin;
-  typed_.watch(*spin, kSmallestDimension, kLargestDimension, true);
+  typed_.watch(*spin, kSmallestDimension, kLargestDimension);
 }
 
 void LayoutShapeDialog::buildVertexField() {
   vertexField_ = new wxTextCtrl(page_, wxID_ANY, ToWx(boardText(existing_, unit_.mm)),
                                 wxDefaultPosition, kVertexFieldSize, wxTE_MULTILINE);
+  vertexField_->Bind(wxEVT_TEXT, [field = vertexField_](wxCommandEvent& event) {
+    event.Skip();
+    ClearRefusedEntry(*field);
+  });
   pageSizer_->Add(vertexField_, 0, wxEXPAND | wxTOP, kGap);
 }
 
@@ -192,6 +197,7 @@ bool LayoutShapeDialog::takeVertices() {
     const std::optional<std::vector<Vec2>> typed =
         boardFromText(ToUtf8(vertexField_->GetValue()), unit_.mm);
     if (!typed) {
+      MarkRefusedEntry(*vertexField_, "One of these lines holds something that is no number.");
       refuse(vertexField_);
       return false;
     }

@@ -91,7 +91,7 @@ void LevelPropertiesDialog::buildHeight(wxFlexGridSizer& grid) {
   const double shown = std::isnan(height_) ? 0.0 : height_ / unit_.mm;
   heightSpin_->SetValue(std::clamp(shown, 0.0, range.largest));
   grid.Add(heightSpin_, 0, wxALIGN_CENTRE_VERTICAL);
-  typed_.watch(*heightSpin_, 0.0, range.largest, false);
+  typed_.watch(*heightSpin_, 0.0, range.largest);
 }
 
 LevelProperties LevelPropertiesDialog::properties() const {

@@ -81,7 +81,7 @@ wxSizer* PrintOptionsDialog::makeRow(NumberRow& row, const char* before, const c
                      kSmallest, kLargest, std::clamp(value, kSmallest, kLargest));
   row.spin->SetMinSize(wxSize(std::max(kSpinWidth, row.spin->GetBestSize().x), -1));
   row.behind = new wxStaticText(this, wxID_ANY, behind);
-  typed_.watch(*row.spin, kSmallest, kLargest, true);
+  typed_.watch(*row.spin, kSmallest, kLargest);
   auto* sizer = new wxBoxSizer(wxHORIZONTAL);
   sizer->Add(row.before, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, kGap);
   sizer->Add(row.spin, 0, wxALIGN_CENTRE_VERTICAL);

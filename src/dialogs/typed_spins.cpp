@@ -6,6 +6,7 @@
 #include <cmath>
 #include <optional>
 
+#include "app/services/number_entry.h"
 #include "app/services/wx_text.h"
 #include "doc/typed_number.h"
 
@@ -19,7 +20,17 @@ TypedSpins::TypedSpins(wxDialog& dialog) {
   });
 }
 
-void TypedSpins::watch(wxSpinCtrlBase& spin, double smallest, double largest, bool wholeOnly) {
+void TypedSpins::watch(wxSpinCtrl& spin, double smallest, double largest) {
+  WatchNumberEntry(spin);
+  watchText(spin, smallest, largest, true);
+}
+
+void TypedSpins::watch(wxSpinCtrlDouble& spin, double smallest, double largest) {
+  WatchNumberEntry(spin);
+  watchText(spin, smallest, largest, false);
+}
+
+void TypedSpins::watchText(wxSpinCtrlBase& spin, double smallest, double largest, bool wholeOnly) {
   watched_.push_back({&spin, smallest, largest, wholeOnly});
   // Not when the focus leaves: the control's own number is there before that is told.
   spin.Bind(wxEVT_KEY_UP, [this, &spin](wxKeyEvent& event) {
@@ -42,11 +53,13 @@ wxSpinCtrlBase* TypedSpins::takeRefused() {
   for (Watched& watched : watched_) {
     if (watched.refused && first == nullptr) first = watched.spin;
     watched.refused = false;
+    ClearRefusedEntry(*watched.spin);
   }
   return first;
 }
 
 bool TypedSpins::isTaken(const Watched& watched) {
+  if (IsMarkedRefused(*watched.spin)) return false;
   const std::optional<double> number = TypedNumber(ToUtf8(watched.spin->GetTextValue()));
   if (!number || *number < watched.smallest || *number > watched.largest) return false;
   return !watched.wholeOnly || std::floor(*number) == *number;

@@ -8,7 +8,9 @@
 #include <vector>
 
 class wxDialog;
+class wxSpinCtrl;
 class wxSpinCtrlBase;
+class wxSpinCtrlDouble;
 
 namespace vantrel {
 
@@ -20,9 +22,10 @@ class TypedSpins {
   TypedSpins(const TypedSpins&) = delete;
   TypedSpins& operator=(const TypedSpins&) = delete;
 
-  // Watches a spin control for texts that are no number, none within the bounds, or with
-  // `wholeOnly` no whole one.
-  void watch(wxSpinCtrlBase& spin, double smallest, double largest, bool wholeOnly);
+  // Watches a spin control for texts that are no number or none within the bounds, or for whole
+  // numbers no whole one. Before they are refused here, such texts are marked in the control.
+  void watch(wxSpinCtrl& spin, double smallest, double largest);
+  void watch(wxSpinCtrlDouble& spin, double smallest, double largest);
   // Forgets all controls; to be called before they are destroyed.
   void clear();
 
@@ -39,6 +42,7 @@ class TypedSpins {
     bool refused = false;
   };
 
+  void watchText(wxSpinCtrlBase& spin, double smallest, double largest, bool wholeOnly);
   static bool isTaken(const Watched& watched);
   Watched* find(wxSpinCtrlBase* spin);
   void noteAll();

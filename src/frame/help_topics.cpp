@@ -205,7 +205,8 @@ One degree is a rise of about 17 mm on each metre. Most trains manage 2 degrees 
 program offers up to 6 and warns in red beside a steeper piece. Arch and truss bridges
 automatically end the grade chain and sit flat. Ramps carry the climb on.
 
-You can also type a height for the selected piece and press Enter. To carry it on, select the
+You can also type a height for the selected piece and press Enter. A comma is as good as a point in
+every number, and a field that was given none turns red and keeps the one it had. To carry it on, select the
 piece that follows and press Recalc: it takes its height from the piece before, and the level
 track behind it goes along.
 

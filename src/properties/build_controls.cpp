@@ -11,6 +11,7 @@
 
 #include <algorithm>
 
+#include "app/services/number_entry.h"
 #include "app/services/wx_text.h"
 #include "inspection/selection_edits.h"
 #include "properties/properties_panel.h"
@@ -173,6 +174,7 @@ void PropertiesPanel::buildGradeSettings(wxWindow* box, wxSizer* column) {
                                     wxSP_ARROW_KEYS, 0.0, kMaxGradeDeg, 0.0, kGradeStepDeg);
   gradeSpin_->SetDigits(1);
   gradeSpin_->SetMinSize(AtLeast(kGradeSpinWidth, *gradeSpin_));
+  WatchNumberEntry(*gradeSpin_);
 
   auto* direction = new wxBoxSizer(wxHORIZONTAL);
   direction->Add(gradeUp_, 0, kMiddle);

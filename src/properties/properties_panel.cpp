@@ -14,10 +14,12 @@
 #include <string>
 #include <utility>
 
+#include "app/services/number_entry.h"
 #include "app/services/wx_text.h"
 #include "canvas/operations/grades.h"
 #include "inspection/page_texts.h"
 #include "inspection/selection_edits.h"
+#include "inspection/shown_unit.h"
 #include "properties/tally_panel.h"
 #include "properties/warning_colour.h"
 #include "properties/wrapped_label.h"
@@ -115,6 +117,7 @@ void PropertiesPanel::showHeight(const HeightEntry& entry, bool keepTyped) {
   const wxString text = ToWx(entry.text);
   if (heightField_->GetValue() != text && !(keepTyped && heightField_->HasFocus()))
     heightField_->ChangeValue(text);
+  if (!keepTyped) ClearRefusedEntry(*heightField_);
   heightField_->Enable(entry.enabled);
 }
 
@@ -138,6 +141,7 @@ void PropertiesPanel::showGrade(const GradeEntry& entry, bool keepTyped) {
   if (!(keepTyped && inUse)) {
     (entry.up ? gradeUp_ : gradeDown_)->SetValue(true);
     gradeSpin_->SetValue(entry.degrees);
+    ClearRefusedEntry(*gradeSpin_);
   }
   for (wxWindow* setting : {static_cast<wxWindow*>(gradeUp_), static_cast<wxWindow*>(gradeDown_),
                             static_cast<wxWindow*>(gradeSpin_)})
@@ -177,6 +181,10 @@ void PropertiesPanel::bindEvents() {
   heightField_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
     keepHistoryKeys(*heightField_, ToWx(page_.height.text), event);
   });
+  heightField_->Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
+    event.Skip();
+    ClearRefusedEntry(*heightField_);
+  });
   labelField_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
     keepHistoryKeys(*labelField_, wxString(), event);
   });
@@ -205,7 +213,12 @@ void PropertiesPanel::keepHistoryKeys(wxTextCtrl& field, const wxString& untouch
 }
 
 void PropertiesPanel::enterHeight() {
-  if (!EnterHeight(workspace_.layout(), page_.pieceId, ToUtf8(heightField_->GetValue()))) return;
+  const std::string typed = ToUtf8(heightField_->GetValue());
+  if (!EnterHeight(workspace_.layout(), page_.pieceId, typed)) {
+    if (!HeightFromText(typed, UnitOf(workspace_.layout())))
+      MarkRefusedEntry(*heightField_, "This is no number. The height stays as it was.");
+    return;
+  }
   workspace_.markDirty();
   showSelection(Typed::replace);
   heightField_->SelectAll();  // ready for another number

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/support/typed_keys.h"
 
 namespace vantrel {
 namespace {
@@ -347,6 +348,35 @@ TEST_F(LayoutShape, CopesWithAnyLastShapeThatAFileCouldHold) {
     Choose(dialog, 4);
     EXPECT_NE(FindControl<wxTextCtrl>(dialog), nullptr);
   }
+}
+
+// "12,5" would become 125.
+TEST_F(LayoutShape, AFractionIsToldAndNotTaken) {
+  const int answer = run([this](wxDialog& dialog) {
+    for (wxSpinCtrl* spin : FindControls<wxSpinCtrl>(dialog)) EXPECT_TRUE(RefusesFractions(*spin));
+    expectWarning();
+    Press(dialog, "Apply");
+    EXPECT_TRUE(script_.finished()) << "not told";
+    Press(dialog, "Apply");
+  });
+  EXPECT_EQ(answer, wxID_OK);
+  EXPECT_EQ(vertices_, (std::vector<Vec2>{{0, 0}, {2400, 0}, {2400, 1200}, {0, 1200}}));
+}
+
+TEST_F(LayoutShape, CornersThatHoldNoNumberAreMarkedUntilTheyAreMended) {
+  run([this](wxDialog& dialog) {
+    Choose(dialog, 4);
+    auto* field = FindControl<wxTextCtrl>(dialog);
+    field->SetValue("0,0\n1,2,5");
+    expectWarning();
+    Press(dialog, "Apply");
+    EXPECT_TRUE(IsMarkedRefused(*field));
+    EXPECT_EQ(field->GetToolTipText(), "One of these lines holds something that is no number.");
+    field->SetValue("0,0\n1,2.5");
+    EXPECT_FALSE(IsMarkedRefused(*field));
+    Press(dialog, "Apply");
+  });
+  EXPECT_EQ(vertices_, (std::vector<Vec2>{{0, 0}, {1, 2.5}}));
 }
 
 }  // namespace

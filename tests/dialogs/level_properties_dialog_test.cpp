@@ -9,6 +9,7 @@
 #include <limits>
 
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/support/typed_keys.h"
 
 namespace vantrel {
 namespace {
@@ -102,6 +103,11 @@ TEST_F(LevelPropertiesPage, AnEmptyHeightIsToldAndTheDialogStays) {
   LevelPropertiesDialog dialog(parent_, level_, unit(kCentimetres));
   EXPECT_EQ(dialog.ShowModal(), wxID_OK);
   EXPECT_NEAR(dialog.properties().height, 75.0, 1e-9);
+}
+
+TEST_F(LevelPropertiesPage, ADecimalCommaInTheHeightIsADecimalPoint) {
+  LevelPropertiesDialog dialog(parent_, level_, unit(kMillimetres));
+  EXPECT_TRUE(TakesDecimalComma(HeightOf(dialog)));
 }
 
 TEST_F(LevelPropertiesPage, NothingIsCutOffInAnyUnit) {

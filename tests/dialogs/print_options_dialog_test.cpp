@@ -6,6 +6,7 @@
 #include <wx/stattext.h>
 
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/support/typed_keys.h"
 
 namespace vantrel {
 namespace {
@@ -133,6 +134,24 @@ TEST_F(PrintOptionsPage, ANumberThatIsNoneIsToldInItsOwnModeAlone) {
   PrintOptionsDialog dialog(parent_, options_);
   EXPECT_EQ(dialog.ShowModal(), wxID_OK);
   EXPECT_EQ(dialog.options().mode, kFitToPage);
+}
+
+// "12,5" would become 125.
+TEST_F(PrintOptionsPage, AFractionIsToldAndNotTaken) {
+  ModalScript script;
+  script.shown("Print Options", [&script](wxDialog& dialog) {
+    Choose(Radio(dialog, 0), 1);
+    EXPECT_TRUE(RefusesFractions(Spin(dialog, 0)));
+    EXPECT_TRUE(RefusesFractions(Spin(dialog, 1)));
+    script.box("Print Options", "Please enter a whole number from 1 to 1000.",
+               wxOK | wxICON_WARNING, wxID_OK);
+    PressStandard(dialog, wxID_OK);
+    EXPECT_TRUE(script.finished()) << "not told";
+    EXPECT_FALSE(IsMarkedRefused(Spin(dialog, 0)));
+    PressStandard(dialog, wxID_OK);
+  });
+  PrintOptionsDialog dialog(parent_, options_);
+  EXPECT_EQ(dialog.ShowModal(), wxID_OK);
 }
 
 TEST_F(PrintOptionsPage, StandsInItsOrderFromTheTop) {

@@ -232,6 +232,11 @@ TEST(HelpShortcuts, AreFollowedByTheTruthAboutTwoOfThem) {
   EXPECT_NE(notes.find("Alt+right-click turns track by 30 degrees"), std::string::npos);
 }
 
+TEST(HelpTopics, TellOfTheDecimalComma) {
+  EXPECT_NE(WholeBody(Topic("Elevation and Grades")).find("A comma is as good as a point"),
+            std::string::npos);
+}
+
 // Whose desktop takes Alt with a drag finds another way.
 TEST(HelpTopics, TellHowToTurnWithoutAlt) {
   const std::string body = WholeBody(Topic("Rotating Pieces"));

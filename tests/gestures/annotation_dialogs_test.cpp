@@ -12,6 +12,7 @@
 #include "canvas/resize_scenery_dialog.h"
 #include "canvas/shape_properties_dialog.h"
 #include "tests/gestures/editing_driver.h"
+#include "tests/support/typed_keys.h"
 
 namespace vantrel {
 namespace {
@@ -221,6 +222,43 @@ TEST_F(SmallDialogs, AHeightOutsideTheSpinsRangeIsKeptWhenItIsNotTouched) {
   EXPECT_EQ(ShapePropertiesDialog(frame, tall, kMillimetres).properties(), tall);
   tall.height = -3.25;
   EXPECT_EQ(ShapePropertiesDialog(frame, tall, kInches).properties(), tall);
+}
+
+TEST_F(SmallDialogs, ADecimalCommaIsADecimalPointInEveryNumber) {
+  ResizeSceneryDialog resize(frame, {.width = 300.0, .depth = 60.0}, {.x = 1.5, .y = 0.5});
+  for (wxSpinCtrlDouble* spin : all<wxSpinCtrlDouble>(resize))
+    EXPECT_TRUE(TakesDecimalComma(*spin)) << spin->GetTextValue();
+  ShapePropertiesDialog shape(frame, {.label = "Lake", .height = 20.0}, kMillimetres);
+  for (wxSpinCtrlDouble* spin : all<wxSpinCtrlDouble>(shape))
+    EXPECT_TRUE(TakesDecimalComma(*spin)) << spin->GetTextValue();
+  for (wxSpinCtrl* spin : all<wxSpinCtrl>(shape)) EXPECT_TRUE(RefusesFractions(*spin));
+}
+
+// Otherwise nobody would see that the number from before was taken.
+TEST_F(SmallDialogs, OkOnAFieldThatWasGivenNoNumberStaysOnceAndThenTakesTheOneFromBefore) {
+  const auto pressOk = [](wxDialog& dialog) {
+    wxCommandEvent click(wxEVT_BUTTON, wxID_OK);
+    click.SetEventObject(dialog.FindWindow(wxID_OK));
+    dialog.HandleWindowEvent(click);
+  };
+  const auto okTwice = [&](wxDialog& dialog, wxWindow& field) {
+    MarkRefusedEntry(field, "none");
+    bool stayed = false;
+    dialog.CallAfter([&] {
+      pressOk(dialog);
+      stayed = dialog.IsModal();
+      ClearRefusedEntry(field);  // as the focus does that it now gets
+      pressOk(dialog);
+    });
+    EXPECT_EQ(dialog.ShowModal(), wxID_OK);
+    return stayed;
+  };
+  ResizeSceneryDialog resize(frame, {.width = 300.0, .depth = 60.0}, {.x = 1.5, .y = 0.5});
+  EXPECT_TRUE(okTwice(resize, *all<wxSpinCtrlDouble>(resize)[1]));
+  EXPECT_EQ(resize.scale(), (SceneryScale{1.5, 0.5}));
+  ShapePropertiesDialog shape(frame, {.label = "Lake", .height = 20.0}, kMillimetres);
+  EXPECT_TRUE(okTwice(shape, *all<wxSpinCtrlDouble>(shape)[0]));
+  EXPECT_EQ(shape.properties().height, 20.0);
 }
 
 }  // namespace

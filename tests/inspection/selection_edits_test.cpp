@@ -146,7 +146,7 @@ TEST(EnteredHeight, TakesOneUndoStepEvenForTheSameHeight) {
 TEST(EnteredHeight, ThatIsNoNumberChangesNothing) {
   Layout layout = PlanWithHistory();
   const std::int32_t id = LaySelected(layout, "24188");
-  for (const char* text : {"", "high", "12 mm", "12,5", "inf", "nan"}) {
+  for (const char* text : {"", "high", "12 mm", "1,2,5", "inf", "nan"}) {
     EXPECT_FALSE(EnterHeight(layout, id, text));
     EXPECT_EQ(PieceOf(layout, id).z, 0.0);
   }

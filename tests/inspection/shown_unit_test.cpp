@@ -30,8 +30,16 @@ TEST(ShownUnit, TakesNumbersInTheWaysInWhichPeopleTypeThem) {
   EXPECT_EQ(HeightFromText("0", Unit(0)), 0.0);
 }
 
+TEST(ShownUnit, TakesADecimalCommaForTheDecimalPoint) {
+  EXPECT_EQ(HeightFromText("12,5", Unit(0)), 12.5);
+  EXPECT_EQ(HeightFromText(" -0,25 ", Unit(1)), -2.5);
+  EXPECT_EQ(HeightFromText(",5", Unit(0)), 0.5);
+  for (const char* text : {"1,234.5", "1.234,5", "1,,5", ","})
+    EXPECT_FALSE(HeightFromText(text, Unit(0)).has_value()) << text;
+}
+
 TEST(ShownUnit, TakesNothingElseForANumber) {
-  for (const char* text : {"",    " ",    "abc",      "12 mm", "12mm",   "12,5",  "1 2", "0x10",
+  for (const char* text : {"",    " ",    "abc",      "12 mm", "12mm",   "1,2,5", "1 2", "0x10",
                            "--5", "+-5",  "++5",      "-",     "+",      ".",     "e5",  "1e",
                            "inf", "-inf", "infinity", "nan",   "nan(1)", "1e999", "5\"", "½"})
     EXPECT_FALSE(HeightFromText(text, Unit(0)).has_value()) << text;

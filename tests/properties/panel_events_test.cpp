@@ -1,6 +1,10 @@
 // What the panel passes on when the user acts, and what it then shows.
 #include <cmath>
+
+#include "app/services/number_entry.h"
+#include "doc/layout_ops.h"
 #include "tests/properties/panel_fixture.h"
+#include "tests/support/typed_keys.h"
 
 namespace vantrel {
 namespace {
@@ -31,13 +35,35 @@ TEST_F(PanelEvents, AHeightIsTakenInTheUnitInForce) {
 
 TEST_F(PanelEvents, AHeightThatIsNoNumberStaysInTheFieldAndChangesNothing) {
   const std::int32_t id = selectPiece();
-  for (const char* typed : {"12 mm", "", "1,5", "inf"}) {
+  for (const char* typed : {"12 mm", "", "1,2,5", "inf"}) {
     enter(heightField(), typed);
     EXPECT_EQ(heightField().GetValue(), typed);
     EXPECT_EQ(piece(id).z, 0.0);
   }
   EXPECT_EQ(takeCalls(), kNoCalls);
   EXPECT_TRUE(plan().undoHistory.empty());
+}
+
+TEST_F(PanelEvents, AHeightWithADecimalCommaIsTheNumberWithThePoint) {
+  const std::int32_t id = selectPiece();
+  enter(heightField(), "12,5");
+  EXPECT_EQ(piece(id).z, 12.5);
+  EXPECT_EQ(heightField().GetValue(), "12.5");
+}
+
+TEST_F(PanelEvents, AHeightThatIsNoNumberIsMarkedUntilItIsTypedAnewOrAnotherPieceIsShown) {
+  selectPiece();
+  enter(heightField(), "high");
+  EXPECT_TRUE(IsMarkedRefused(heightField()));
+  EXPECT_EQ(heightField().GetToolTipText(), "This is no number. The height stays as it was.");
+  heightField().SetValue("12");
+  EXPECT_FALSE(IsMarkedRefused(heightField()));
+  EXPECT_EQ(heightField().GetToolTipText(), "");
+  enter(heightField(), "");
+  EXPECT_TRUE(IsMarkedRefused(heightField()));
+  ClearSelection(plan());
+  panel->RefreshSelection();
+  EXPECT_FALSE(IsMarkedRefused(heightField()));
 }
 
 TEST_F(PanelEvents, AHeightWithNoPieceShownChangesNothing) {
@@ -172,6 +198,12 @@ TEST_F(PanelEvents, StartGradePutsAnUpwardRunInForceWithoutAnUndoStep) {
   EXPECT_TRUE(button(4104).IsEnabled());
   EXPECT_EQ(takeCalls(), (Calls{"status 0 Elevation: UP 2.5 deg", "views"}));
   EXPECT_TRUE(plan().undoHistory.empty());
+}
+
+// "1,5" became 15 and that the steepest, 6.
+TEST_F(PanelEvents, ADecimalCommaInTheDegreesIsADecimalPoint) {
+  selectPiece();
+  EXPECT_TRUE(TakesDecimalComma(spin()));
 }
 
 TEST_F(PanelEvents, StartGradeDownwardIsNegative) {

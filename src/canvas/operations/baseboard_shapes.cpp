@@ -81,7 +81,9 @@ std::string_view NextLine(std::string_view& text) {
   return line;
 }
 
+// Here the comma stands between the two numbers and is no decimal point: a second one is a mistake.
 std::optional<double> TypedMm(std::string_view text, double mmPerUnit) {
+  if (text.find(',') != std::string_view::npos) return std::nullopt;
   const std::optional<double> value = TypedNumber(text);
   if (!value || !std::isfinite(*value * mmPerUnit)) return std::nullopt;
   return *value * mmPerUnit;
