@@ -1,9 +1,18 @@
 #include "view3d/scene_painter.h"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
+#include "catalog/piece_builders.h"
 #include "view3d/gl_headers.h"
+#include "view3d/scene/projection.h"
+#include "view3d/scene/track_strip.h"
+#include "view3d/scene/vec3f.h"
 
 namespace vantrel {
 namespace {
@@ -55,20 +64,28 @@ class MeshDrawing {
   MeshDrawing(const MeshDrawing&) = delete;
   MeshDrawing& operator=(const MeshDrawing&) = delete;
 
-  void draw(const Mesh& mesh) {
-    if (mesh.empty()) return;
+  void draw(const Mesh& mesh) { draw(mesh, mesh.colors, mesh.indices); }
+
+  // The vertices of a mesh in other colours, and only some of its triangles.
+  void draw(const Mesh& mesh, const std::vector<Rgb>& colours,
+            const std::vector<std::uint32_t>& indices) {
+    if (indices.empty()) return;
     if (&mesh != pointedAt_) {
       glVertexPointer(3, GL_FLOAT, sizeof(Vec3f), mesh.positions.data());
       glNormalPointer(GL_FLOAT, sizeof(Vec3f), mesh.normals.data());
-      glColorPointer(3, GL_FLOAT, sizeof(Rgb), mesh.colors.data());
       pointedAt_ = &mesh;
     }
-    glDrawElements(GL_TRIANGLES, static_cast<GLsizei>(mesh.indices.size()), GL_UNSIGNED_INT,
-                   mesh.indices.data());
+    if (&colours != colouredBy_) {
+      glColorPointer(3, GL_FLOAT, sizeof(Rgb), colours.data());
+      colouredBy_ = &colours;
+    }
+    glDrawElements(GL_TRIANGLES, static_cast<GLsizei>(indices.size()), GL_UNSIGNED_INT,
+                   indices.data());
   }
 
  private:
   const Mesh* pointedAt_ = nullptr;
+  const std::vector<Rgb>* colouredBy_ = nullptr;
 };
 
 const Model* ModelFor(const std::unordered_map<std::string, Model>& models,
@@ -111,10 +128,7 @@ void DrawFloorGrid() {
   glDepthMask(GL_TRUE);
 }
 
-// They lie a hair above the baseboard: too little for the depth buffer from farther away.
-void DrawAxes() {
-  const PlainLines lines(2.0F);
-  glDepthRange(0.0, 1.0 - kAxesNearer);
+void DrawAxisLines() {
   constexpr auto reach = static_cast<float>(kGridReachMm);
   glBegin(GL_LINES);
   glColor3f(0.45F, 0.18F, 0.18F);
@@ -124,6 +138,19 @@ void DrawAxes() {
   glVertex3f(-reach, 0.0F, kAxesHeightMm);
   glVertex3f(reach, 0.0F, kAxesHeightMm);
   glEnd();
+}
+
+// They lie a hair above the baseboard: too little for the depth buffer from farther away. Drawn
+// without samples they leave their depth, on some drivers, in one sample of four only, and the
+// board would cover the others.
+void DrawAxes() {
+  const PlainLines lines(2.0F);
+  glDepthRange(0.0, 1.0 - kAxesNearer);
+  DrawAxisLines();
+  glEnable(GL_MULTISAMPLE);
+  glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
+  DrawAxisLines();
+  glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
   glDepthRange(0.0, 1.0);
 }
 
@@ -159,17 +186,62 @@ void DrawWires(const std::vector<WireLine>& wires) {
   glEnd();
 }
 
+// As the context has it just now.
+Projection CurrentProjection() {
+  std::array<float, 16> scene{};
+  std::array<float, 16> view{};
+  std::array<GLint, 4> viewport{};
+  glGetFloatv(GL_MODELVIEW_MATRIX, scene.data());
+  glGetFloatv(GL_PROJECTION_MATRIX, view.data());
+  glGetIntegerv(GL_VIEWPORT, viewport.data());
+  return {Product(view, scene), static_cast<float>(viewport[2]), static_cast<float>(viewport[3])};
+}
+
+// As much as from one sleeper to the next, in the piece's middle.
+struct SleeperStep {
+  double along = 0.0;  // pixels, along the heading
+  double across = 0.0;
+};
+
+SleeperStep SleeperStepOf(const Projection& projection, const TrackInstance& piece) {
+  const auto heading = static_cast<float>(Radians(piece.heading));
+  const Vec3f ahead{std::cos(heading), std::sin(heading), 0.0F};
+  const Vec3f aside{-ahead.y, ahead.x, 0.0F};
+  constexpr auto step = static_cast<float>(kSleeperStepMm);
+  const Vec3f middle = Vec3f{piece.x, piece.y, piece.z} + ahead * (piece.length / 2.0F);
+  return {PixelsBetween(projection, middle, middle + ahead * step),
+          PixelsBetween(projection, middle, middle + aside * step)};
+}
+
+// With as much of sleepers and rails as can be seen.
+void DrawTrackModel(MeshDrawing& meshes, const Model& model, const FarTrack& far,
+                    SleeperStep step) {
+  const int shade = FarShade(step.along);
+  if (IsPlainBand(std::max(step.along, step.across)))
+    meshes.draw(model, far.bandColours, far.band);
+  else if (shade == 0)
+    meshes.draw(model);
+  else
+    meshes.draw(model, far.colours[static_cast<std::size_t>(shade - 1)],
+                shade == kFarShades ? far.withoutSleepers : model.indices);
+}
+
 void DrawTrack(MeshDrawing& meshes, const Scene& scene) {
+  const Projection projection = CurrentProjection();
   for (const TrackInstance& piece : scene.trackInstances) {
     const Model* model = ModelFor(scene.trackModels, piece.key);
     if (!model) continue;
+    const auto far = scene.farTracks.find(piece.key);
     glPushMatrix();
     glTranslatef(piece.x, piece.y, piece.z);
     glRotatef(piece.heading, 0.0F, 0.0F, 1.0F);
     glRotatef(piece.rev ? piece.grade : -piece.grade, 0.0F, 1.0F, 0.0F);
     // Models are made in the canvas's frame, in which y points the other way.
     glScalef(1.0F, -1.0F, 1.0F);
-    meshes.draw(*model);
+    if (far == scene.farTracks.end())
+      meshes.draw(*model);
+    else
+      DrawTrackModel(meshes, *model, far->second, SleeperStepOf(projection, piece));
     glPopMatrix();
   }
 }
@@ -214,8 +286,12 @@ bool SetUpPainting() {
 void PaintScene(const Scene& scene, const Camera& camera, PaintSize size) {
   if (size.width >= 1 && size.height >= 1) Look(camera, size);
   glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+  // So wide and of that colour to the pixel, however many samples it has: smoothed, the dark lines
+  // of the grid would be as good as gone.
+  glDisable(GL_MULTISAMPLE);
   DrawFloorGrid();
   DrawAxes();
+  glEnable(GL_MULTISAMPLE);
   PaintContents(scene);
 }
 

@@ -19,9 +19,11 @@ constexpr int kDepthBits = 24;
 // first: a 3D frame can take a tenth of a second without a graphics card.
 constexpr int kSettleMs = 60;
 
-wxGLAttributes DisplayAttributes() {
+wxGLAttributes DisplayAttributes(int samples) {
   wxGLAttributes attributes;
-  attributes.PlatformDefaults().RGBA().DoubleBuffer().Depth(kDepthBits).EndList();
+  attributes.PlatformDefaults().RGBA().DoubleBuffer().Depth(kDepthBits);
+  if (samples > 0) attributes.SampleBuffers(1).Samplers(samples);
+  attributes.EndList();
   return attributes;
 }
 
@@ -52,17 +54,28 @@ class QuietToolkit {
 
 }  // namespace
 
-bool TrackGLCanvas::IsSupported() {
+bool TrackGLCanvas::IsSupported(int samples) {
 #ifdef __WXGTK__
   // The toolkit reaches OpenGL through X here, and doesn't ask whether there is any.
   if (wxGetDisplayInfo().type != wxDisplayX11) return false;
 #endif
   const QuietToolkit quiet;
-  return IsDisplaySupported(DisplayAttributes());
+  return IsDisplaySupported(DisplayAttributes(samples));
 }
 
-TrackGLCanvas::TrackGLCanvas(wxWindow* parent, const vantrel::Layout& layout)
-    : wxGLCanvas(parent, DisplayAttributes(), wxID_ANY, wxDefaultPosition, wxDefaultSize,
+TrackGLCanvas* TrackGLCanvas::Make(wxWindow* parent, const vantrel::Layout& layout,
+                                   std::span<const int> sampleCounts) {
+  for (const int samples : sampleCounts) {
+    if (!IsSupported(samples)) continue;
+    auto* canvas = new TrackGLCanvas(parent, layout, samples);
+    if (canvas->hasContext()) return canvas;
+    canvas->Destroy();
+  }
+  return nullptr;
+}
+
+TrackGLCanvas::TrackGLCanvas(wxWindow* parent, const vantrel::Layout& layout, int samples)
+    : wxGLCanvas(parent, DisplayAttributes(samples), wxID_ANY, wxDefaultPosition, wxDefaultSize,
                  wxFULL_REPAINT_ON_RESIZE | wxBORDER_NONE, "GLCanvas") {
   makeContext();
   build(layout);

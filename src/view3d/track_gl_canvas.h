@@ -4,7 +4,9 @@
 #include <wx/glcanvas.h>
 #include <wx/timer.h>
 
+#include <array>
 #include <memory>
+#include <span>
 
 #include "doc/layout.h"
 #include "view3d/scene/camera.h"
@@ -14,11 +16,19 @@ namespace vantrel {
 
 class TrackGLCanvas : public wxGLCanvas {
  public:
-  // False where the display has no OpenGL to offer: no canvas may be made then.
-  static bool IsSupported();
+  // Samples a pixel that smooth edges, as wished: the first that the driver has is taken.
+  static constexpr std::array<int, 2> kSampleCounts{4, 0};
+
+  // False where the display has no OpenGL with so many samples to offer: no canvas of that kind may
+  // be made then.
+  static bool IsSupported(int samples = 0);
+
+  // The first canvas with a context, null where the display has none to offer.
+  static TrackGLCanvas* Make(wxWindow* parent, const vantrel::Layout& layout,
+                             std::span<const int> sampleCounts = kSampleCounts);
 
   // The scene is built at once, from the layout as it is now.
-  TrackGLCanvas(wxWindow* parent, const vantrel::Layout& layout);
+  TrackGLCanvas(wxWindow* parent, const vantrel::Layout& layout, int samples = 0);
   ~TrackGLCanvas() override;
   TrackGLCanvas(const TrackGLCanvas&) = delete;
   TrackGLCanvas& operator=(const TrackGLCanvas&) = delete;

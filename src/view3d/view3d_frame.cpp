@@ -14,22 +14,13 @@ constexpr const char* kHelp =
 constexpr const char* kNoOpenGl =
     "There is nothing to see here: this display offers no OpenGL 2.1 to draw with";
 
-// Null when no context comes with it.
-TrackGLCanvas* MakeCanvas(wxWindow* parent, const vantrel::Layout& layout) {
-  if (!TrackGLCanvas::IsSupported()) return nullptr;
-  auto* canvas = new TrackGLCanvas(parent, layout);
-  if (canvas->hasContext()) return canvas;
-  canvas->Destroy();
-  return nullptr;
-}
-
 }  // namespace
 
 View3DFrame::View3DFrame(wxWindow* parent, const vantrel::Layout& layout)
     : wxFrame(parent, wxID_ANY, "3D View - Vantrel", wxDefaultPosition, kFrameSize,
               wxDEFAULT_FRAME_STYLE) {
   CreateStatusBar(1);
-  canvas_ = MakeCanvas(this, layout);
+  canvas_ = TrackGLCanvas::Make(this, layout);
   SetStatusText(canvas_ ? kHelp : kNoOpenGl);
   wxWindow* content = canvas_;
   if (!content) content = new wxPanel(this);

@@ -1,7 +1,9 @@
 #include "view3d/scene_painter.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdlib>
 #include <vector>
 
 #include "tests/view3d/view_fixture.h"
@@ -232,6 +234,70 @@ TEST_F(Painter, AGradeRaisesTheFarEndAndRevTheNearOne) {
   scene.trackInstances[0].rev = true;
   paint(scene, side);
   EXPECT_NEAR(blob(0).y, -39.0, 4.0);
+}
+
+// A row of 15 straights across the view, 2824.5 mm, with the camera on its middle; far away from
+// the floor's grid and axes.
+struct LongRow {
+  Scene scene;
+  Camera camera;
+};
+
+LongRow RowSeenFrom(float distance) {
+  Layout layout;
+  for (int i = 0; i < 15; ++i) {
+    Piece piece;
+    piece.id = i + 1;
+    piece.cat = "24188";
+    piece.x = 6000.0 + 188.3 * i;
+    piece.y = -6000.0;
+    layout.pieces.push_back(piece);
+  }
+  LongRow row{BuildScene(layout), {.pitch = 35.0F, .yaw = 20.0F, .distance = distance}};
+  row.camera.centreX = 7412.25F;
+  row.camera.centreY = 6000.0F;
+  return row;
+}
+
+TEST_F(Painter, FarSleepersDontShimmer) {
+  // At 3500 mm a pixel is 3500 times 2 tan 20 degrees / 300 = 8.5 mm: sleepers lie 1.5 pixels
+  // apart, and the row is at most 333 pixels long, with an edge on either side. Each turn moves its
+  // ends, 167 pixels from the middle, by 167 times 0.000599 = 0.1 pixels. An edge that moves 0.1
+  // pixels at its ends, 0.05 on the average, changes that share of its pixels: 2 x 333 x 0.05 = 33,
+  // beside those of the two ends, 2 x 4. Whatever else changes much shimmers.
+  LongRow row = RowSeenFrom(3500.0F);
+  constexpr int kTurns = 10;
+  constexpr float kTurnDegrees = 0.0343F;
+  int jumps = 0;
+  paint(row.scene, row.camera);
+  ASSERT_TRUE(ready_);
+  for (int turn = 0; turn < kTurns; ++turn) {
+    const std::vector<unsigned char> before = pixels_;
+    row.camera.yaw += kTurnDegrees;
+    paint(row.scene, row.camera);
+    for (std::size_t i = 0; i < pixels_.size(); i += 3) {
+      int most = 0;
+      for (std::size_t channel = i; channel < i + 3; ++channel)
+        most = std::max(most, std::abs(pixels_[channel] - before[channel]));
+      jumps += most > 64 ? 1 : 0;
+    }
+  }
+  EXPECT_LE(jumps, kTurns * 41);
+}
+
+TEST_F(Painter, NearSleepersAreThere) {
+  // At 700 mm sleepers lie 7.6 pixels apart. Nothing but a sleeper is as dark and as brown.
+  const LongRow row = RowSeenFrom(700.0F);
+  const auto brown = [this] {
+    int count = 0;
+    for (std::size_t i = 0; i < pixels_.size(); i += 3)
+      count += pixels_[i] > pixels_[i + 2] + 40 && pixels_[i] < 180 ? 1 : 0;
+    return count;
+  };
+  paint(row.scene, row.camera);
+  EXPECT_GT(brown(), 500);
+  paint(row.scene, RowSeenFrom(3500.0F).camera);
+  EXPECT_EQ(brown(), 0);
 }
 
 TEST_F(Painter, InstancesWithoutAModelAreSkipped) {

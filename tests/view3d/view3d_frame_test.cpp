@@ -3,7 +3,10 @@
 #include <wx/sizer.h>
 #include <wx/statusbr.h>
 
+#include <array>
+
 #include "tests/view3d/view_fixture.h"
+#include "view3d/gl_headers.h"
 
 namespace vantrel {
 namespace {
@@ -28,6 +31,35 @@ TEST_F(Frame3D, TheCanvasFillsIt) {
   EXPECT_TRUE(canvas().HasFlag(wxBORDER_NONE));
   view().SetSize(640, 480);
   EXPECT_TRUE(PumpUntil([this] { return canvas().GetSize() == view().GetClientSize(); }));
+}
+
+// Of the context that the canvas has made current, which it does before each paint.
+int SamplesOf(TrackGLCanvas& canvas) {
+  canvas.Refresh();
+  canvas.Update();
+  int samples = -1;
+  glGetIntegerv(GL_SAMPLES, &samples);
+  return samples;
+}
+
+TEST_F(Frame3D, SmoothsEdgesWithFourSamplesAPixel) {
+  ASSERT_TRUE(TrackGLCanvas::IsSupported(4)) << "the driver here has multisampling";
+  EXPECT_EQ(SamplesOf(canvas()), 4);
+}
+
+TEST_F(Frame3D, DoesWithoutSamplesThatTheDriverDoesntHave) {
+  auto* frame = new wxFrame(nullptr, wxID_ANY, "plain");
+  view_ = nullptr;
+  const std::array<int, 2> wished{1024, 0};
+  ASSERT_FALSE(TrackGLCanvas::IsSupported(1024));
+  TrackGLCanvas* plain = TrackGLCanvas::Make(frame, plan_, wished);
+  ASSERT_NE(plain, nullptr);
+  frame->Show();
+  EXPECT_TRUE(PumpUntil([plain] { return ColoursOf(*plain).contains(kBackground); }));
+  EXPECT_EQ(SamplesOf(*plain), 0);
+  const std::array<int, 1> tooMany{1024};
+  EXPECT_EQ(TrackGLCanvas::Make(frame, plan_, tooMany), nullptr);
+  delete frame;
 }
 
 TEST_F(Frame3D, PassesChangesOnToTheCanvas) {

@@ -76,7 +76,9 @@ const Piece* SceneBuild::findPiece(std::int32_t id) const {
 
 void SceneBuild::needTrackModel(const PieceDef& def) {
   const auto [entry, isNew] = scene.trackModels.try_emplace(def.partNumber);
-  if (isNew) entry->second = makers.track(def);
+  if (!isNew) return;
+  entry->second = makers.track(def);
+  scene.farTracks.emplace(def.partNumber, MakeFarTrack(entry->second));
 }
 
 Scene BuildSceneWith(const Layout& layout, ModelMakers makers) {

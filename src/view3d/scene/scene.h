@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "doc/layout.h"
+#include "view3d/scene/far_track.h"
 #include "view3d/scene/mesh.h"
 
 namespace vantrel {
@@ -43,6 +44,7 @@ struct WireLine {
 
 struct Scene {
   std::unordered_map<std::string, Model> trackModels;
+  std::unordered_map<std::string, FarTrack> farTracks;  // of the same parts
   std::vector<TrackInstance> trackInstances;
   Mesh sceneMesh;  // shapes, piers, helix posts
   Mesh baseMesh;   // the baseboard

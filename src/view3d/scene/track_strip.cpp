@@ -1,3 +1,5 @@
+#include "view3d/scene/track_strip.h"
+
 #include <cstddef>
 
 #include "view3d/scene/paths.h"
@@ -6,17 +8,9 @@
 namespace vantrel {
 namespace {
 
-constexpr SolidColours kBallast{.side = {0.58F, 0.56F, 0.52F}, .top = {0.76F, 0.74F, 0.7F}};
-constexpr SolidColours kRail{.side = {0.52F, 0.52F, 0.56F}, .top = {0.74F, 0.74F, 0.78F}};
-constexpr SolidColours kSleeper{.side = {0.28F, 0.18F, 0.1F}, .top = {0.38F, 0.27F, 0.16F}};
-
-constexpr float kBallastHalfWidthMm = 18.7F;
 constexpr float kBallastTopMm = 2.0F;
-constexpr float kSleeperHalfLengthMm = 13.0F;
-constexpr float kSleeperHalfWidthMm = 1.75F;
 constexpr float kSleeperTopMm = 4.2F;
 constexpr double kFirstSleeperMm = 6.5;
-constexpr double kSleeperStepMm = 13.0;
 constexpr float kGaugeMm = 16.5F;
 constexpr float kRailHalfWidthMm = 0.6F;
 constexpr float kRailTopMm = 6.7F;
@@ -30,7 +24,7 @@ void AddSleeper(Mesh& mesh, const PathPoint& at) {
               {.halfWidth = kSleeperHalfLengthMm,
                .low = kBallastTopMm,
                .high = kSleeperTopMm,
-               .colours = kSleeper,
+               .colours = kSleeperColours,
                .hasEnds = true});
 }
 
@@ -54,7 +48,7 @@ void AddTrackStrip(Mesh& mesh, const Path& path) {
               {.halfWidth = kBallastHalfWidthMm,
                .low = 0.0F,
                .high = kBallastTopMm,
-               .colours = kBallast,
+               .colours = kBallastColours,
                .hasEnds = true});
   AddSleepers(mesh, path);
   for (const float side : {1.0F, -1.0F})
@@ -63,7 +57,7 @@ void AddTrackStrip(Mesh& mesh, const Path& path) {
                  .halfWidth = kRailHalfWidthMm,
                  .low = kSleeperTopMm,
                  .high = kRailTopMm,
-                 .colours = kRail});
+                 .colours = kRailColours});
 }
 
 }  // namespace vantrel
