@@ -5,6 +5,8 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <map>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -121,14 +123,72 @@ TEST(SampleFolder, HoldsTheSixPlans) {
   EXPECT_EQ(SampleFiles().size(), 6u);
 }
 
-TEST(SampleFolder, HasOnePlanOfAThousandPieces) {
+Layout ExhibitionYard() {
   Layout layout;
   std::string name;
-  ASSERT_EQ(
+  EXPECT_EQ(
       LoadLayoutFile(layout,
                      (fs::path(VANTREL_SOURCE_DIR) / "samples/Exhibition Yard.vtl").string(), name),
       "");
-  EXPECT_EQ(layout.pieces.size(), 1000u);
+  return layout;
+}
+
+TEST(SampleFolder, HasOnePlanOfAThousandPieces) {
+  EXPECT_EQ(ExhibitionYard().pieces.size(), 1000u);
+}
+
+TEST(SampleFolder, TheExhibitionYardHasLaddersSlipsADepotAHiddenYardAndTwoRamps) {
+  const Layout layout = ExhibitionYard();
+  std::map<std::string, int> parts;
+  std::map<std::int32_t, int> turnouts;  // by level
+  for (const Piece& piece : layout.pieces) {
+    ++parts[piece.cat];
+    if (piece.cat == "24611" || piece.cat == "24612") ++turnouts[piece.level];
+  }
+  // The station has 1 + 5 turnouts on the way to its southern tracks, 1 + 2 to the northern ones,
+  // 1 + 4 to the carriages and 2 to the depot; the hidden yard has two ladders of nine and the one
+  // to the helix.
+  EXPECT_EQ(turnouts[2], 16);
+  EXPECT_EQ(turnouts[3], 19);
+  EXPECT_EQ(parts["24624"], 3);
+  EXPECT_EQ(parts["74861"], 1);
+  EXPECT_EQ(parts["74618"], 2 * 28);
+  EXPECT_EQ(layout.helices.size(), 1u);
+  EXPECT_EQ(std::count_if(layout.scenery.begin(), layout.scenery.end(),
+                          [](const SceneryItem& item) { return item.item == "72886"; }),
+            1);
+}
+
+TEST(SampleFolder, TheExhibitionYardIsOneNetworkInWhichOnlyTheTurntableHasFreeEnds) {
+  const Layout layout = ExhibitionYard();
+  const PieceIndex index = IndexPieces(layout);
+  std::set<std::int32_t> reached;
+  std::vector<std::int32_t> next = {layout.pieces.front().id};
+  const auto ring = [&](std::int32_t a, std::int32_t b, std::int32_t id) {
+    if (id == a) next.push_back(b);
+    if (id == b) next.push_back(a);
+  };
+  while (!next.empty()) {
+    const std::int32_t id = next.back();
+    next.pop_back();
+    if (!reached.insert(id).second) continue;
+    const Piece& piece = layout.pieces[index.at(id)];
+    std::size_t open = findPart(piece.cat)->connectors.size();
+    for (const Joint& joint : piece.joints) {
+      if (joint.open()) continue;
+      --open;
+      next.push_back(joint.target);
+    }
+    // A stub's other end is the ring's.
+    if (piece.cat != "74861") {
+      EXPECT_EQ(open, piece.helix == kNone ? 0u : 1u) << id << " " << piece.cat;
+    }
+    for (const Helix& helix : layout.helices) {
+      ring(helix.bottomR1, helix.topR1, id);
+      ring(helix.bottomR2, helix.topR2, id);
+    }
+  }
+  EXPECT_EQ(reached.size(), layout.pieces.size());
 }
 
 TEST(SampleFolder, TheViaductClimbsToItsBridgesAndComesDownAgain) {

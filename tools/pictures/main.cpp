@@ -17,6 +17,7 @@
 #include "io/layout_file.h"
 #include "tools/pictures/staging.h"
 #include "tools/pictures/studio.h"
+#include "tools/samples/move_plan.h"
 
 namespace {
 
@@ -30,12 +31,15 @@ constexpr int kQuality = 90;  // of 100, of the JPEG data
 std::string samples;
 std::string folder;
 
-Layout Plan(const std::string& name) {
+// `corner` is where the table's corner lies in the scene: the scenes are measured in coordinates of
+// their own.
+Layout Plan(const std::string& name, vantrel::Vec2 corner) {
   Layout layout;
   std::string title;
   const std::string problem = vantrel::LoadLayoutFile(layout, samples + "/" + name + ".vtl", title);
   if (!problem.empty()) throw std::runtime_error(problem);
   layout.baseboard.clear();  // the meadow takes its place
+  vantrel::samples::MovePlan(layout, corner);
   return layout;
 }
 
@@ -93,7 +97,11 @@ void Frame(wxImage& image, int width) {
 
 // The viaduct, and a railcar on its arch.
 wxImage Splash() {
-  Layout layout = Plan("TRIX Viaduct");
+  Layout layout = Plan("TRIX Viaduct", {160.0, 160.0});
+  // The tunnel would draw the eye from the train.
+  layout.tunnels.clear();
+  std::erase_if(layout.scenery,
+                [](const auto& item) { return item.item == "tunnel_portal_single"; });
   Put(layout, "signal_color_clear", {1110.0, 1330.0, 0.0});
   Put(layout, "signal_box", {1020.0, 1540.0, 90.0});
   Put(layout, "tree_conifer", {1330.0, 1480.0, 0.0});
@@ -117,7 +125,7 @@ wxImage Splash() {
 
 // A railcar has a clear line.
 wxImage Inset() {
-  Layout layout = Plan("C-Track Double Oval");
+  Layout layout = Plan("C-Track Double Oval", {-60.0, 120.0});
   layout.scenery.clear();
   Put(layout, "signal_color_clear", {1215.0, 1136.0, 270.0});
   vantrel::Plant(layout, {{-500.0, 400.0}, {900.0, 1000.0}, 60, 3});
@@ -138,7 +146,7 @@ wxImage Inset() {
 
 // Down the tracks of the terminus.
 wxImage Help() {
-  Layout layout = Plan("K-Track Terminus");
+  Layout layout = Plan("K-Track Terminus", {240.0, 380.0});
   std::erase_if(layout.scenery,
                 [](const auto& item) { return item.item.starts_with("signal_color"); });
   Put(layout, "signal_color_clear", {1030.0, 772.0, 90.0});

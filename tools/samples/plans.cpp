@@ -56,9 +56,29 @@ Layout DoubleOval() {
   plan.scenery("tree_lg_dec", {middle + 150.0, origin.y + 420.0, 0.0});
   plan.scenery("tree_conifer", {middle + 230.0, origin.y + 360.0, 0.0});
   plan.scenery("bush", {middle + 60.0, origin.y + 500.0, 0.0});
+  // A road crosses both ovals and ends in the village.
+  const double road = origin.x + 800.0;
+  plan.scenery("crossing_2track", {road, origin.y + 38.75, 0.0});
+  plan.scenery("road_straight", {road, origin.y - 96.0, 90.0}, {0.57, 1.0});
+  for (const double y : {212.75, 400.75}) plan.scenery("road_straight", {road, origin.y + y, 90.0});
+  plan.scenery("parking_lot", {road - 170.0, origin.y + 330.0, 0.0});
+  plan.scenery("ped_zone", {road - 170.0, origin.y + 440.0, 0.0}, {2.0, 1.2});
+  plan.scenery("goods_shed", {road + 140.0, origin.y + 420.0, 90.0});
+  plan.scenery("car", {road - 12.0, origin.y + 300.0, 90.0});
+  plan.scenery("truck", {road + 12.0, origin.y + 200.0, 270.0});
+  plan.scenery("signal_box", {origin.x + 1010.0, nearSide + 90.0, 0.0});
+  for (const double x : {-430.0, 700.0, 880.0, 960.0})
+    plan.scenery("tree_group", {middle + x, nearSide + 350.0, x});
+  for (const double x : {-380.0, -300.0, 420.0, 500.0, 600.0})
+    plan.scenery("tree_conifer", {middle + x, nearSide + 300.0 + x / 10.0, 0.0});
+  for (const Vec2 at : {Vec2{-300.0, 180.0}, {-120.0, 640.0}, {80.0, 660.0}, {420.0, 620.0}})
+    plan.scenery("tree_lg_dec", {middle + at.x, origin.y + at.y, 0.0});
   plan.label("Platform 1", {middle - 130.0, nearSide + 225.0});
   plan.label("Crossover", {origin.x + 110.0, origin.y - 90.0});
-  plan.baseboard({-60.0, 120.0}, {1980.0, 1760.0});
+  plan.label("Outer oval, R2", {middle - 480.0, nearSide - 60.0});
+  plan.label("Inner oval, R1", {middle - 90.0, nearSide - 180.0});
+  plan.label("Siding", {origin.x - 60.0, nearSide + 105.0});
+  plan.table(kRectangleBoard, {2040.0, 1640.0, 0.0, 0.0}, {-60.0, 120.0});
   return plan.take();
 }
 
@@ -93,16 +113,42 @@ Layout KTerminus() {
   finish(down2, 5);
   finish(down3, 4);
 
-  plan.scenery("goods_shed", {1950.0, 1010.0, 0.0});
-  plan.scenery("platform", {1690.0, 1010.0, 0.0});
-  plan.scenery("signal_box", {1180.0, 500.0, 0.0});
-  plan.scenery("signal_color_stop", {860.0, 740.0, 0.0});
+  // Platforms beside the northernmost track, goods beside the southernmost.
+  const double north = plan.pose(up3).y;
+  const double south = plan.pose(down3).y;
+  for (int i = 0; i < 4; ++i) plan.scenery("platform", {1600.0 + 230.0 * i, north - 57.0, 0.0});
   plan.scenery("station_small", {2620.0, 560.0, 270.0});
-  plan.scenery("water_tower", {1400.0, 990.0, 0.0});
-  plan.label("Main line", {330.0, 720.0});
-  plan.label("Branch", {330.0, 580.0});
-  plan.label("Goods yard", {1880.0, 1070.0});
-  plan.baseboard({240.0, 380.0}, {2760.0, 1160.0});
+  plan.scenery("signal_box", {1180.0, 480.0, 0.0});
+  plan.scenery("goods_shed", {2050.0, south + 72.0, 0.0});
+  plan.scenery("platform", {1820.0, south + 57.0, 180.0});
+  plan.scenery("water_tower", {1480.0, 960.0, 0.0});
+  for (int i = 0; i < 6; ++i) plan.scenery("road_straight", {1450.0 + 188.0 * i, 1075.0, 0.0});
+  plan.scenery("parking_lot", {2620.0, 1070.0, 0.0});
+  plan.scenery("truck", {1980.0, 1063.0, 180.0});
+  plan.scenery("car", {1560.0, 1088.0, 0.0});
+  plan.scenery("car", {2300.0, 1088.0, 0.0});
+  plan.scenery("signal_color_stop", {860.0, 740.0, 0.0});
+  plan.scenery("signal_color_clear", {860.0, 595.0, 0.0});
+  for (const Vec2 at : {Vec2{360.0, 470.0},
+                        {620.0, 450.0},
+                        {430.0, 1040.0},
+                        {760.0, 1080.0},
+                        {1050.0, 980.0},
+                        {1230.0, 1090.0}})
+    plan.scenery("tree_group", {at.x, at.y, at.x});
+  for (const Vec2 at : {Vec2{480.0, 520.0},
+                        {820.0, 470.0},
+                        {980.0, 440.0},
+                        {560.0, 940.0},
+                        {920.0, 900.0},
+                        {1380.0, 1090.0}})
+    plan.scenery("tree_conifer", {at.x, at.y, 0.0});
+  plan.label("Main line", {330.0, 725.0});
+  plan.label("Branch", {330.0, 570.0});
+  plan.label("Double slip", {880.0, 650.0});
+  plan.label("Platforms", {1760.0, 440.0});
+  plan.label("Goods yard", {1540.0, 985.0});
+  plan.table(kRectangleBoard, {2520.0, 780.0, 0.0, 0.0}, {240.0, 380.0});
   return plan.take();
 }
 
@@ -138,8 +184,15 @@ Layout ZTableTop() {
   plan.scenery("bush", {560.0, 330.0, 0.0});
   plan.scenery("signal_z_color_clear", {640.0, 462.0, 0.0});
   plan.scenery("signal_z_semaphore_stop", {300.0, 72.0, 0.0});
-  plan.label("Goods siding", {390.0, 540.0});
-  plan.baseboard({60.0, 40.0}, {890.0, 590.0});
+  plan.scenery("platform", {400.0, 529.0, 180.0}, {0.6, 0.45});
+  for (const Vec2 at : {Vec2{250.0, 250.0}, {700.0, 330.0}, {100.0, 80.0}, {840.0, 530.0}})
+    plan.scenery("tree_conifer", {at.x, at.y, 0.0}, {0.6, 0.6});
+  for (const Vec2 at : {Vec2{280.0, 330.0}, {660.0, 240.0}, {690.0, 280.0}, {110.0, 520.0}})
+    plan.scenery("bush", {at.x, at.y, 0.0});
+  plan.label("Goods siding", {380.0, 555.0});
+  plan.label("Outer oval, 195 mm", {440.0, 62.0});
+  plan.label("Inner oval, 145 mm", {440.0, 155.0});
+  plan.table(kRectangleBoard, {830.0, 550.0, 0.0, 0.0}, {60.0, 40.0});
   return plan.take();
 }
 
@@ -175,18 +228,38 @@ Layout TrixViaduct() {
   plan.endGrade(end);
   plan.close(end, plan.other(first, 0));
 
-  plan.shape({{origin.x + 40.0, bridges - 110.0},
-              {under - 150.0, bridges - 130.0},
-              {under - 160.0, bridges + 210.0},
-              {origin.x + 20.0, bridges + 220.0}},
+  // The far side runs through a hill.
+  plan.tunnel({first, plan.joined(first)});
+
+  plan.shape({{origin.x + 40.0, bridges - 130.0},
+              {under - 170.0, bridges - 140.0},
+              {under - 140.0, bridges + 200.0},
+              {under - 190.0, bridges + 440.0},
+              {origin.x - 20.0, bridges + 440.0},
+              {origin.x - 10.0, bridges + 120.0}},
              110, 160, 215, "River");
-  plan.scenery("tree_group", {origin.x + 250.0, origin.y + 300.0, 0.0});
-  plan.scenery("tree_conifer", {origin.x + 760.0, origin.y + 330.0, 0.0});
+  for (const Vec2 at : {Vec2{40.0, 130.0}, {250.0, 300.0}, {560.0, 140.0}, {-120.0, 420.0}})
+    plan.scenery("tree_group", {origin.x + at.x, origin.y + at.y, at.y});
+  for (const Vec2 at : {Vec2{150.0, 110.0},
+                        {320.0, 130.0},
+                        {430.0, 150.0},
+                        {760.0, 330.0},
+                        {690.0, 200.0},
+                        {-60.0, 300.0},
+                        {-200.0, 520.0},
+                        {880.0, 420.0}})
+    plan.scenery("tree_conifer", {origin.x + at.x, origin.y + at.y, 0.0});
+  plan.scenery("tree_lg_dec", {origin.x + 700.0, origin.y + 560.0, 0.0});
+  plan.scenery("tree_lg_dec", {origin.x + 80.0, origin.y + 520.0, 0.0});
+  plan.scenery("goods_shed", {under + 75.0, origin.y + 560.0, 90.0});
+  plan.scenery("signal_color_stop", {under - 40.0, origin.y + 600.0, 90.0});
   plan.scenery("viaduct_pier", {under - 120.0, bridges, 0.0});
   plan.scenery("viaduct_pier", {under + 120.0, bridges, 0.0});
+  plan.label("Tunnel", {origin.x + 310.0, origin.y - 90.0});
+  plan.label("Branch", {under + 40.0, origin.y + 420.0});
   plan.label("3 degrees up", {origin.x + 1000.0, origin.y + 150.0});
   plan.label("3 degrees down", {origin.x - 420.0, origin.y + 700.0});
-  plan.baseboard({160.0, 160.0}, {2160.0, 1620.0});
+  plan.table(kRectangleBoard, {2000.0, 1460.0, 0.0, 0.0}, {160.0, 160.0});
   return plan.take();
 }
 
@@ -216,7 +289,7 @@ Layout TwoDecks() {
   upper.r = 200;
   upper.g = 215;
   upper.b = 190;
-  upper.outline = {{80.0, 880.0}, {2700.0, 880.0}, {2700.0, 1560.0}, {80.0, 1560.0}};
+  upper.outline = {{80.0, 880.0}, {3130.0, 880.0}, {3130.0, 1560.0}, {80.0, 1560.0}};
   plan.layout().levels.push_back(upper);
   end = plan.layMany({helix.topR1, 1}, "24360", 3);
   plan.lay(end, "24977");
@@ -224,46 +297,45 @@ Layout TwoDecks() {
   const End yard = plan.lay(plan.other(end, 2), "24224", 1, 0);
   plan.lay(plan.layMany(yard, "24360", 2), "24978");
   end = plan.layMany(plan.lay(end, "24172"), "24360", 3);
-  plan.lay(end, "74861", 15, 0);
+  const End table = plan.lay(end, "74861", 15, 0);
 
-  plan.scenery("platform_island", {1450.0, 1360.0, 0.0});
-  plan.scenery("station_small", {1450.0, 1480.0, 0.0});
+  // Three stalls opposite the lead; their gates are where the first straight ends.
+  for (const std::int32_t stall : {29, 0, 1}) {
+    const End spoke = plan.other(plan.joined(plan.other(table, stall)), 1);
+    plan.lay(plan.lay(plan.lay(spoke, "24172"), "24188"), "24977");
+  }
+  constexpr double kHouseFromCentre = 349.6 + 343.0 / 2.0;
+  const Piece& turntable = plan.piece(table.piece);
+  plan.scenery("72886", {turntable.x + kHouseFromCentre, turntable.y, 270.0});
+  plan.scenery("coaling_tower", {2080.0, 1000.0, 0.0});
+  plan.scenery("water_tower", {2080.0, 1230.0, 0.0});
+
+  for (const double x : {1300.0, 1760.0}) plan.scenery("platform_island", {x, 1302.0, 0.0});
+  plan.scenery("station_small", {1450.0, 1450.0, 180.0});
+  plan.scenery("signal_color_clear", {1180.0, 1022.0, 0.0});
+  plan.scenery("parking_lot", {1820.0, 1450.0, 0.0});
+  for (const Vec2 at : {Vec2{2150.0, 1440.0}, {2450.0, 1480.0}, {2800.0, 1450.0}, {1100.0, 1480.0}})
+    plan.scenery("tree_group", {at.x, at.y, at.x});
+  for (const Vec2 at : {Vec2{2300.0, 1500.0}, {2640.0, 1420.0}, {3020.0, 1500.0}, {2960.0, 940.0}})
+    plan.scenery("tree_conifer", {at.x, at.y, 0.0});
   plan.label("Staging tracks", {1400.0, 70.0});
-  plan.label("Station", {1420.0, 1400.0});
-  plan.baseboard({40.0, 40.0}, {2760.0, 1600.0});
-  return plan.take();
-}
+  plan.label("Station", {1400.0, 1230.0});
+  plan.label("Helix, 260 mm up", {430.0, 690.0});
+  plan.label("Loco depot", {2280.0, 1350.0});
 
-// A large plan: five nested ovals, one for each radius of the system, and a yard of long tracks;
-// one thousand pieces exactly.
-Layout ExhibitionYard() {
-  SampleBuilder plan;
-  constexpr std::size_t kPieces = 1000;
-  constexpr int kStraights = 20;
-  struct Ring {
-    std::string_view curve;
-    double radius;
-  };
-  const Ring rings[] = {
-      {"24530", 643.6}, {"24430", 579.3}, {"24330", 515.0}, {"24230", 437.5}, {"24130", 360.0}};
-  const double centreY = 1000.0;
-  for (const Ring& ring : rings) {
-    const End first = plan.start("24188", {900.0, centreY - ring.radius, 0.0});
-    End end = plan.layMany(first, "24188", kStraights - 1);
-    end = HalfCircle(plan, end, ring.curve);
-    end = plan.layMany(end, "24188", kStraights);
-    end = HalfCircle(plan, end, ring.curve);
-    plan.close(end, plan.other(first, 0));
-  }
-  // The yard fills the board below, 64.3 mm from track to track, until the count is reached.
-  double y = centreY + 643.6 + 200.0;
-  while (plan.layout().pieces.size() < kPieces) {
-    End end = plan.start("24978", {300.0, y, 180.0}, 0);
-    while (plan.layout().pieces.size() < kPieces && plan.pose(end).x < 5200.0)
-      end = plan.lay(end, plan.layout().pieces.size() % 7 == 0 ? "24229" : "24188");
-    y += 64.3;
-  }
-  plan.baseboard({100.0, 200.0}, {5600.0, y + 140.0});
+  // What the upper deck stands on, as far as the helix leaves room.
+  Level frame;
+  frame.id = 3;
+  frame.name = "Frame of the upper deck";
+  frame.g = 220;
+  frame.b = 180;
+  plan.layout().levels.push_back(frame);
+  plan.onLevel(frame.id);
+  Shape& deck = plan.shape({{1060.0, 900.0}, {3130.0, 900.0}, {3130.0, 1560.0}, {1060.0, 1560.0}},
+                           165, 160, 120, "");
+  deck.height = upper.height;
+  deck.outline = false;
+  plan.table(kRectangleBoard, {3140.0, 1560.0, 0.0, 0.0}, {40.0, 40.0});
   return plan.take();
 }
 

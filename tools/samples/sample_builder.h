@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "canvas/operations/baseboard_shapes.h"
 #include "doc/layout.h"
 
 namespace vantrel::samples {
@@ -20,6 +21,10 @@ class SampleBuilder {
   Layout& layout() { return layout_; }
   const Piece& piece(std::int32_t id) const;
 
+  // From now on everything is put on this level, whatever it is joined to. A line that starts there
+  // starts at the level's height.
+  void onLevel(std::int32_t level) { level_ = level; }
+
   // Places the first piece of a line free, and returns its connector `exit`.
   End start(std::string_view part, Pose pose, std::int32_t exit = 1);
   // Joins connector `entry` of a new piece to `from`, and returns its connector `exit`.
@@ -27,6 +32,10 @@ class SampleBuilder {
   // The same `count` times.
   End layMany(End from, std::string_view part, int count, std::int32_t entry = 0,
               std::int32_t exit = 1);
+  // Straights that come as close as they can to `length` mm.
+  End layLength(End from, double length);
+  // The connector of the other piece that is joined to this one.
+  End joined(End end) const;
   // Another connector of the same piece.
   End other(End end, std::int32_t connector) const { return {end.piece, connector}; }
   // Where an end lies and which way it points.
@@ -40,14 +49,21 @@ class SampleBuilder {
   void startGrade(End end, double degrees);
   // Ends the run that has reached this end.
   void endGrade(End end);
+  // Straights of one kind that lead from this end to a height in mm, at one grade.
+  End layRamp(End from, std::string_view part, int count, double height);
 
-  void scenery(std::string_view item, Pose pose);
+  // `scale` stretches the item along and across.
+  void scenery(std::string_view item, Pose pose, Vec2 scale = {1.0, 1.0});
   void label(std::string_view text, Vec2 at);
-  void baseboard(Vec2 topLeft, Vec2 bottomRight);
-  void shape(std::vector<Vec2> vertices, std::uint8_t r, std::uint8_t g, std::uint8_t b,
-             std::string_view name);
+  // The table as the dialog makes it, and that choice as the last one made there. The dialog's
+  // tables begin at the world's origin: the finished plan is moved so that `corner` lies there.
+  void table(BaseboardShape shape, BoardDimensions dimensions, Vec2 corner = {0.0, 0.0});
+  // Lays a tunnel over these pieces, one chain.
+  void tunnel(const std::vector<End>& pieces);
+  Shape& shape(std::vector<Vec2> vertices, std::uint8_t r, std::uint8_t g, std::uint8_t b,
+               std::string_view name);
   // A helix of the default kit with its four stubs. Returns the record.
-  const Helix& helix(Vec2 centre);
+  const Helix& helix(Vec2 centre, double heading = 0.0);
 
   // The finished plan: nothing selected, no history.
   Layout take();
@@ -55,7 +71,11 @@ class SampleBuilder {
   Layout takeSelected();
 
  private:
+  void settle(std::int32_t firstNewPiece);
+
   Layout layout_;
+  std::int32_t level_ = kNone;
+  Vec2 corner_{0.0, 0.0};
 };
 
 // The plans, in the order of their files.
