@@ -25,6 +25,9 @@ DISPLAY=:$(tr -d '\n' <"$numbers")
 export DISPLAY
 # No accessibility or session bus on a bare display: the toolkit would wait for one.
 export NO_AT_BRIDGE=1 GDK_BACKEND=x11 LIBGL_ALWAYS_SOFTWARE=1
-openbox --config-file "$(dirname "${BASH_SOURCE[0]}")/openbox.xml" >/dev/null 2>&1 &
+# By its whole path: of another it takes no notice, and keeps Alt with a drag for itself.
+openbox --config-file "$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)/openbox.xml" >/dev/null 2>&1 &
 window_manager=$!
+# For commands that want to know when the display has nothing left to do.
+export VANTREL_DISPLAY_PROCESSES="$server $window_manager"
 "$@"

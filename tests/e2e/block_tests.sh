@@ -109,8 +109,7 @@ test_a_broken_block_is_named_and_the_plan_is_rescued() {
   settle
   picture broken_block_message
   key Return
-  for _ in $(seq 50); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
-  kill -0 "$pid" 2>/dev/null && { problem="the program still runs"; return 1; }
+  has_ended || { problem="the program still runs"; return 1; }
   wait "$pid" || status=$?
   expect "exit code" 1 "$status" || return 1
   grep -rqs 'Yard.vtl, line 2: invalid stod argument' "$store/home" || { problem="the log doesn't say why"; return 1; }

@@ -24,40 +24,99 @@ stop_program() {
   rm -rf "$store"
 }
 
-# The time the program needs to answer an event and paint.
-settle() { sleep "${1:-0.4}"; }
+# nap SECONDS: a short rest, without starting a process for it.
+exec {nothing}<> <(:)
+nap() { read -rt "$1" -u "$nothing" || true; }
 
-# window TITLE-PATTERN: the id of a visible window with such a title, waiting for it.
-window() {
-  local id
-  for _ in $(seq 100); do
-    id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -n 1)
-    [ -n "$id" ] && { echo "$id"; return 0; }
-    sleep 0.1
+# in_time SECONDS: sets `deadline`, for `late`.
+in_time() { deadline=$((${EPOCHREALTIME//[!0-9]/} + $1 * 1000000)); }
+late() { [ "${EPOCHREALTIME//[!0-9]/}" -gt "$deadline" ]; }
+
+# until_true SECONDS COMMAND...: whether the command succeeds before that time is over.
+until_true() {
+  local deadline
+  in_time "$1"
+  shift
+  while ! "$@"; do
+    late && return 1
+    nap 0.03
   done
+}
+
+# Sets `activity` to how often each thread of the program, the display and the window manager has
+# been put to sleep so far, or to "busy" if one of them is awake.
+look_for_activity() {
+  local process file lines text
+  activity=
+  for process in "$pid" $VANTREL_DISPLAY_PROCESSES; do
+    for file in /proc/"$process"/task/*/status; do
+      lines=()
+      mapfile -t lines 2>/dev/null <"$file"
+      text=${lines[*]}
+      case $text in *State:?[RD]*) activity=busy; return ;; esac
+      activity+=${text#*voluntary_ctxt_switches:}
+    done
+  done
+}
+
+# settle [brief|long]: waits until whatever was sent has been answered and painted, that is until all
+# that take part sleep, and none of them has woken between one look and the next, five times running,
+# or once, or fifteen times. Looks are 20 ms apart; a frame comes at most 17 ms after the one before,
+# and a caret blinks every 400 ms, so no while can be as long. Looks are counted and not the time, of
+# which a machine may lose any amount. After 30 seconds it goes on all the same: what the test expects
+# is then there or isn't.
+settle() {
+  local looks=5 alike=0 activity before=busy deadline
+  [ "${1:-}" != brief ] || looks=1
+  [ "${1:-brief}" = brief ] || looks=15
+  in_time 30
+  until [ "$alike" -ge "$looks" ] || late; do
+    nap 0.02
+    look_for_activity
+    alike=$((alike + 1))
+    [ "$activity" != busy ] && [ "$activity" = "$before" ] || alike=0
+    before=$activity
+  done
+}
+
+# window TITLE-PATTERN: the id of a visible window with such a title, waiting for it and for what it
+# does at first.
+window() {
+  if until_true 60 is_shown "$1"; then
+    settle
+    windows_titled "$1" | tail -n 1
+    return 0
+  fi
   problem="no window titled $1"
   return 1
 }
 
 window_gone() {
-  for _ in $(seq 100); do
-    [ -z "$(xdotool search --onlyvisible --name "$1" 2>/dev/null)" ] && return 0
-    sleep 0.1
-  done
+  if until_true 60 is_gone "$1"; then
+    settle
+    return 0
+  fi
   problem="the window titled $1 stays"
   return 1
 }
+
+windows_titled() { xdotool search --onlyvisible --name "$1" 2>/dev/null; }
+is_shown() { [ -n "$(windows_titled "$1")" ]; }
+is_gone() { [ -z "$(windows_titled "$1")" ]; }
+
+# has_ended: whether the program ends, waiting for it.
+has_ended() { until_true 30 is_over; }
+is_over() { ! kill -0 "$pid" 2>/dev/null; }
 
 title() { xdotool getwindowname "$main"; }
 
 # picture NAME: what the screen shows now, kept in the output folder.
 picture() { import -window root "$output/$1.png" 2>/dev/null; }
 
-# pixels COLOUR: every pixel of that colour on the screen, as "x y" lines.
+# pixels COLOUR [PICTURE]: every pixel of that colour on the screen, or on a picture, as "x y" lines.
 pixels() {
-  import -window root "$store/screen.png"
   # Of a picture that is transparent elsewhere this format names only the pixels left.
-  convert "$store/screen.png" -alpha set -channel RGBA -fill none +opaque "$1" sparse-color:- | tr ' ' '\n' |
+  convert "${2:-x:root}" -alpha set -channel RGBA -fill none +opaque "$1" sparse-color:- | tr ' ' '\n' |
     awk -F, '/^[0-9]/ {print $1, $2}'
 }
 
@@ -117,20 +176,42 @@ scroll_palette_to() {
   point_y=$(($2 - clicks * step))
 }
 
-move() { xdotool mousemove "$1" "$2"; sleep 0.05; }
-
-# glide X Y: moves there in steps, so that the program sees motion and not a jump.
-glide() {
-  local x y steps=8
-  eval "$(xdotool getmouselocation --shell | sed -n 's/^X=/x=/p;s/^Y=/y=/p')"
-  for i in $(seq $steps); do
-    xdotool mousemove $((x + ($1 - x) * i / steps)) $((y + ($2 - y) * i / steps))
-    sleep 0.03
-  done
+move() {
+  xdotool mousemove "$1" "$2"
+  settle brief
 }
 
-press() { xdotool mousedown "${1:-1}"; sleep 0.08; }
-release() { xdotool mouseup "${1:-1}"; sleep 0.08; }
+# glide X Y: moves there in steps, so that the program sees motion and not a jump. The last one waits
+# until the others are dealt with: of motions that come while the program asks where the pointer is,
+# the display tells it no more.
+glide() {
+  local i X=0 Y=0 steps=4 way=()
+  eval "$(xdotool getmouselocation --shell | grep '^[XY]=')"
+  for i in $(seq $((steps - 1))); do
+    way+=(mousemove $((X + ($1 - X) * i / steps)) $((Y + ($2 - Y) * i / steps)) sleep 0.018)
+  done
+  xdotool "${way[@]}"
+  settle brief
+  move "$1" "$2"
+}
+
+# single: waits, after a press nearly here, until the next one can't make a double click with it.
+single() {
+  local X=0 Y=0 dx dy
+  eval "$(xdotool getmouselocation --shell | grep '^[XY]=')"
+  dx=$((X - pressed_x)) dy=$((Y - pressed_y))
+  if [ $((dx * dx + dy * dy)) -lt 400 ]; then
+    while [ $((${EPOCHREALTIME//[!0-9]/} - pressed_at)) -lt 600000 ]; do nap 0.02; done
+  fi
+  pressed_x=$X pressed_y=$Y pressed_at=${EPOCHREALTIME//[!0-9]/}
+}
+pressed_x=0 pressed_y=0 pressed_at=0
+
+press() {
+  [ "${1:-1}" -gt 3 ] || single
+  xdotool mousedown "${1:-1}"
+}
+release() { xdotool mouseup "${1:-1}"; }
 click() { press "$@"; release "$@"; }
 
 # drag_from X Y TO-X TO-Y: presses on an icon at a screen point, pulls the piece to a point of the
@@ -176,7 +257,11 @@ at() {
   glide $((canvas_x + 60 + $1 * 2 / 5)) $((canvas_y + 60 + $2 * 2 / 5))
 }
 
-double_click() { xdotool click --repeat 2 --delay 60 1; settle; }
+double_click() {
+  single
+  xdotool click --repeat 2 --delay 60 1
+  settle
+}
 
 # drag_to SCREEN-X SCREEN-Y: with the left button, from where the pointer is.
 drag_to() {
@@ -190,7 +275,7 @@ drag_to() {
 choose_entry() {
   click 3
   settle
-  for _ in $(seq "$1"); do xdotool key Down; sleep 0.1; done
+  for _ in $(seq "$1"); do key Down; done
   xdotool key Return
   settle
 }

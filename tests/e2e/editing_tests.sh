@@ -157,10 +157,15 @@ test_alt_turns_to_a_right_angle_and_flashes_green() {
   xdotool keydown alt
   press
   at 900 900
-  at 607 1000
-  # It flashes for less than half a second: one look at the screen, and no time for another.
-  green=$(pixels '#00FF64')
-  cp "$store/screen.png" "$output/right_angle.png"
+  # It flashes for less than half a second: one look at the screen, and where that came too late,
+  # back and once more.
+  for _ in 1 2 3 4 5; do
+    at 607 1000
+    picture right_angle
+    green=$(pixels '#00FF64' "$output/right_angle.png")
+    [ -z "$green" ] || break
+    at 900 900
+  done
   [ -n "$green" ] || problem="no green angle"
   release
   xdotool keyup alt

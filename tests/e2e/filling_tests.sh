@@ -284,7 +284,7 @@ show_helix_rows() {
   find_palette || return 1
   move $((palette_x + 40)) $((palette_y + 200))
   xdotool click --repeat 150 --delay 10 5
-  settle 0.8
+  settle long
   point_x=$((palette_x + 60))
   point_y=$(($(pixels '#4B5564' | awk '{print $2}' | sort -n | tail -n 1) + 1 + 11))
 }

@@ -17,12 +17,11 @@ start_greeted() {
 # greetings: how many windows carry the program's bare title. The greeting has the main window's.
 greetings() { xdotool search --onlyvisible --name '^Vantrel v1.5 by Kelmor$' 2>/dev/null | wc -l; }
 
+are_greetings() { [ "$(greetings)" = "$1" ]; }
+
 # until_greetings N
 until_greetings() {
-  for _ in $(seq 100); do
-    [ "$(greetings)" = "$1" ] && { settle; return 0; }
-    sleep 0.1
-  done
+  until_true 60 are_greetings "$1" && { settle; return 0; }
   problem="expected $1 windows with the program's title, got $(greetings)"
   return 1
 }
@@ -64,7 +63,7 @@ test_the_first_start_greets_asks_and_remembers() {
   until_greetings 2 || return 1
   key Escape
   until_greetings 1 || return 1
-  settle 1
+  settle long
   [ -z "$(xdotool search --onlyvisible --name '^Choose Your Experience$' 2>/dev/null)" ] ||
     { problem="the question came again"; return 1; }
 }
@@ -78,7 +77,7 @@ test_the_question_closed_by_its_title_bar_means_business() {
   # From then on the program comes up bare.
   start_greeted 'playful=0\nasked=1\n'
   until_greetings 1 || return 1
-  settle 1
+  settle long
   expect "windows with the title" 1 "$(greetings)" || return 1
 }
 
@@ -86,7 +85,7 @@ test_the_manual_opens_by_its_key_scrolls_to_its_end_and_closes() {
   local help top end
   key F1
   help=$(window '^Vantrel v1.5 Help$') || return 1
-  settle 1
+  settle long
   picture help_top
   top=$(text_of "$help")
   key End

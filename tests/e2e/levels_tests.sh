@@ -236,7 +236,7 @@ level_row() {
   local id
   id=$(window '^Manage Levels$') || return 1
   xdotool mousemove --window "$id" "$2" $((103 + ($1 - 1) * 24))
-  sleep 0.2
+  settle
 }
 
 test_levels_by_the_mouse() {
@@ -296,7 +296,7 @@ test_a_free_form_baseboard_is_drawn_on_the_canvas() {
   local plan="$store/Free.vtl" i
   open_shape_dialog || return 1
   # The sixth of the list.
-  for i in 1 2 3 4 5; do xdotool key Down; sleep 0.1; done
+  for i in 1 2 3 4 5; do key Down; done
   picture shape_free_form
   key Tab
   key Return

@@ -122,11 +122,6 @@ test_a_newcomer_lays_saves_reopens_previews_and_closes_the_first_plan() {
   key alt+f
   key Up
   key Return
-  local waited
-  for waited in $(seq 50); do
-    kill -0 "$pid" 2>/dev/null || break
-    sleep 0.1
-  done
-  [ "$waited" -lt 50 ] || { problem="the program doesn't end"; return 1; }
+  has_ended || { problem="the program doesn't end"; return 1; }
   wait "$pid" || { problem="the program ended with status $?"; return 1; }
 }

@@ -44,7 +44,7 @@ focus_label() {
 # focus_control TABS
 focus_control() {
   focus_label || return 1
-  for _ in $(seq "$1"); do xdotool key Tab; sleep 0.1; done
+  for _ in $(seq "$1"); do key Tab; done
 }
 
 # press_panel_button TABS: by the space bar.
@@ -69,7 +69,7 @@ set_height() {
 # choose_row TABS N: the Nth entry below the present one of a drop-down list.
 choose_row() {
   press_panel_button "$1" || return 1
-  for _ in $(seq "$2"); do xdotool key Down; sleep 0.1; done
+  for _ in $(seq "$2"); do key Down; done
   key Return
 }
 
@@ -287,10 +287,7 @@ buy_track() {
 
 # opened: what the browser was given, waiting for it.
 opened() {
-  for _ in $(seq 50); do
-    [ -s "$store/opened" ] && break
-    sleep 0.1
-  done
+  until_true 30 test -s "$store/opened"
   settle
   paste -sd' ' "$store/opened" 2>/dev/null
 }
@@ -342,13 +339,13 @@ test_buy_track_has_nothing_to_sell_for_an_empty_plan() {
   settle
   picture nothing_to_buy
   answer_box 'Buy Track' Return || return 1
-  settle 1
+  settle long
   [ ! -e "$store/opened" ] || { problem="a browser came up"; return 1; }
   # The same for a plan of nothing but what the store lacks, without a list of it.
   write_plan Lacking "$(parts 62188)"
   open_plan || return 1
   buy_track || return 1
   answer_box 'Buy Track' Return || return 1
-  settle 1
+  settle long
   [ ! -e "$store/opened" ] || { problem="a browser came up for nothing"; return 1; }
 }

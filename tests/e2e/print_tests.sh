@@ -57,15 +57,15 @@ open_preview() {
   settle
   xdotool key v
   preview=$(window '^Print Preview -- Vantrel$') || return 1
-  settle 1
+  settle long
 }
 
 # press_in_preview X: clicks into the row of buttons, X pixels from the window's left edge.
 press_in_preview() {
   xdotool mousemove --window "$preview" "$1" 23
-  sleep 0.1
+  settle
   click
-  settle 0.8
+  settle long
 }
 preview_print=28
 preview_first=89
@@ -85,9 +85,9 @@ press_close_button() {
   local X Y WIDTH
   eval "$(xdotool getwindowgeometry --shell "$1" | grep -E '^(X|Y|WIDTH)=')"
   xdotool mousemove $((X + WIDTH - 11)) $((Y - 10))
-  sleep 0.1
+  settle
   click
-  settle 1
+  settle long
 }
 
 main_is_usable() {

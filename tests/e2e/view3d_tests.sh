@@ -16,13 +16,13 @@ open_view() {
   view=$(window '^3D View - Vantrel$') || { problem="no 3D window"; return 1; }
   xdotool windowsize --sync "$view" 420 320
   xdotool windowmove --sync "$view" 1100 700
-  settle 1
+  settle long
 }
 
 # view_shot NAME: what the 3D window shows, kept in the output folder; prints a checksum of it.
 view_shot() {
   xdotool windowraise "$view"
-  settle 1
+  settle long
   import -window "$view" "$output/$1.png" 2>/dev/null
   convert "$output/$1.png" rgb:- | md5sum | cut -d' ' -f1
 }
@@ -95,7 +95,7 @@ test_the_3d_view_turns_pans_zooms_and_closes() {
   differs "zoomed" "$start" "$zoomed" || return 1
   key r
   expect "zoom after R" "$zoomed" "$(view_shot view3d_zoomed)" || return 1
-  for _ in $(seq 50); do click 5; done
+  xdotool click --repeat 50 --delay 10 5
   settle
   differs "zoomed out" "$zoomed" "$(view_shot view3d_far)" || return 1
   close_view || return 1
@@ -111,7 +111,7 @@ test_the_3d_view_is_one_and_comes_to_the_front() {
   xdotool windowraise "$main"
   settle
   click_view_tool
-  settle 1
+  settle long
   expect "windows" 1 "$(xdotool search --onlyvisible --name '^3D View - Vantrel$' | wc -l)" || return 1
   # The window manager lists windows from the bottom to the top.
   expect "front window" "$view" "$(xprop -root _NET_CLIENT_LIST_STACKING | tr -d ' ' | tr ',#' '\n' |
@@ -197,14 +197,12 @@ test_without_opengl_the_window_says_so_and_the_program_goes_on() {
   numbers=$(mktemp)
   Xvfb -displayfd 3 -screen 0 1600x1100x24 -nolisten tcp -extension GLX 3>"$numbers" 2>/dev/null &
   server=$!
-  for _ in $(seq 100); do
-    [ -s "$numbers" ] && break
-    sleep 0.1
-  done
+  until_true 30 test -s "$numbers"
   DISPLAY=:$(tr -d '\n' <"$numbers")
   openbox --config-file "$here/../../scripts/openbox.xml" >/dev/null 2>&1 &
   manager=$!
-  settle 1
+  local VANTREL_DISPLAY_PROCESSES="$server $manager"
+  settle long
   start_program
   check_without_opengl
   result=$?
