@@ -7,6 +7,7 @@
 #include <wx/pen.h>
 
 #include <cstddef>
+#include <iterator>
 
 namespace vantrel {
 namespace {
@@ -62,6 +63,17 @@ class GridPainter {
     text(key, partFont_, kRowText, left + (kIconSize - width) / 2, top + kPartTextDrop);
   }
 
+  // The icon lies over most of its cell's edge, and in a narrow grid the next cell over the rest.
+  void frameAgain(const GridRow& row, int top, RowLook look) {
+    const int left = layout_.cellLeft(row);
+    const int right = left + kIconSize - 1;
+    const int bottom = top + kIconSize - 1;
+    const wxPoint corners[] = {
+        {left, top}, {right, top}, {right, bottom}, {left, bottom}, {left, top}};
+    dc_.SetPen(cellPen(look));
+    dc_.DrawLines(static_cast<int>(std::size(corners)), corners);
+  }
+
  private:
   static wxColour fill(RowLook look, const wxColour& plain) {
     if (look == RowLook::selected) return kSelectedFill;
@@ -92,6 +104,11 @@ RowLook LookOf(int row, const GridPaintState& state) {
   return row == state.hoverRow ? RowLook::hovered : RowLook::plain;
 }
 
+bool InBand(const GridRow& row, int top, const GridPaintState& state) {
+  const int drawn = row.isIcon() ? kIconRowDrawn : kTextRowHeight;
+  return top <= state.bandBottom && top + drawn > state.bandTop;
+}
+
 }  // namespace
 
 void paintGrid(wxDC& dc, const GridLayout& layout, std::span<const GridRow> rows,
@@ -102,8 +119,7 @@ void paintGrid(wxDC& dc, const GridLayout& layout, std::span<const GridRow> rows
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const GridRow& row = rows[i];
     const int top = layout.rowTop[i];
-    const int drawn = row.isIcon() ? kIconRowDrawn : kTextRowHeight;
-    if (top > state.bandBottom || top + drawn <= state.bandTop) continue;
+    if (!InBand(row, top, state)) continue;
     const RowLook look = LookOf(static_cast<int>(i), state);
     if (row.isHeader)
       painter.header(row, top);
@@ -111,6 +127,13 @@ void paintGrid(wxDC& dc, const GridLayout& layout, std::span<const GridRow> rows
       painter.textRow(row, top, look);
     else
       painter.iconRow(row, top, look);
+  }
+  const int hovered = state.hoverRow == state.selectedRow ? -1 : state.hoverRow;
+  for (const int marked : {hovered, state.selectedRow}) {
+    const auto at = static_cast<std::size_t>(marked);
+    if (marked < 0 || at >= rows.size() || !rows[at].isIcon()) continue;
+    if (InBand(rows[at], layout.rowTop[at], state))
+      painter.frameAgain(rows[at], layout.rowTop[at], LookOf(marked, state));
   }
 }
 

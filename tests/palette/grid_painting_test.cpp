@@ -132,6 +132,39 @@ TEST_F(GridPainting, OutlinesAnIconCellThickRedWhenSelectedAndBlueWhenHovered) {
   EXPECT_EQ(boxes[1].brush, SolidBrush(kHoveredFill));
 }
 
+TEST_F(GridPainting, StrokesTheFramesOfMarkedCellsAgainAboveAllIcons) {
+  rows = {Icon("1"), Icon("2"), Icon("3")};
+  paint({.selectedRow = 0, .hoverRow = 1, .bandBottom = 1000});
+  const std::vector<DrawCall>& calls = dc.calls();
+  std::vector<DrawCall> frames = dc.callsOf(DrawOp::lines);
+  ASSERT_EQ(frames.size(), 2u) << "none for a cell that is neither";
+  // Cells of 80 at 6 and at 103: their last pixels are 85 and 182.
+  EXPECT_EQ(frames[0].pen, SolidPen({150, 170, 200}, 1));
+  EXPECT_EQ(frames[0].points,
+            (std::vector<wxPoint>{wxPoint(103, 6), wxPoint(182, 6), wxPoint(182, 85),
+                                  wxPoint(103, 85), wxPoint(103, 6)}));
+  EXPECT_EQ(frames[1].pen, SolidPen({200, 30, 30}, 2));
+  EXPECT_EQ(frames[1].points, (std::vector<wxPoint>{wxPoint(6, 6), wxPoint(85, 6), wxPoint(85, 85),
+                                                    wxPoint(6, 85), wxPoint(6, 6)}));
+  // The last of all that is drawn: nothing lies over them, not even the next cell in a narrow grid.
+  ASSERT_GE(calls.size(), 2u);
+  EXPECT_EQ(calls[calls.size() - 2].op, DrawOp::lines);
+  EXPECT_EQ(calls[calls.size() - 1].op, DrawOp::lines);
+}
+
+TEST_F(GridPainting, StrokesNoFrameOfACellOutOfViewOrOfARowThatIsNone) {
+  rows = {TextRow("a"), Icon("1"), Icon("2")};  // tops 6, 28, 28
+  paint({.selectedRow = 0, .hoverRow = -1, .bandBottom = 1000});
+  EXPECT_EQ(dc.count(DrawOp::lines), 0u);
+  dc.forget();
+  paint({.selectedRow = 1, .hoverRow = 2, .bandTop = 124, .bandBottom = 1000});
+  EXPECT_EQ(dc.count(DrawOp::lines), 0u);  // an icon row is drawn on 96 pixels: 28 to 123
+  dc.forget();
+  paint({.selectedRow = 1, .hoverRow = 1, .bandTop = 123, .bandBottom = 1000});
+  ASSERT_EQ(dc.count(DrawOp::lines), 1u);
+  EXPECT_EQ(dc.callsOf(DrawOp::lines)[0].pen, SolidPen({200, 30, 30}, 2));
+}
+
 TEST_F(GridPainting, LetsTheSelectionWinOverTheHover) {
   rows = {Icon("1")};
   paint({.selectedRow = 0, .hoverRow = 0, .bandBottom = 1000});
