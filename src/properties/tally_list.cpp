@@ -20,11 +20,9 @@ constexpr int kListBorder = 1;
 // A plan may name parts of any length; no tooltip and no screen shows more than this.
 constexpr std::size_t kLongestText = 200;
 
-// The second and third size of letters: below that they would be hard to read.
-constexpr float kNarrower = 0.9F;
-
-// Descriptions longer than this are those of the few turnouts that tell the radius as well.
-constexpr std::size_t kUsualLetters = 54;
+// Longer than this are only some of the K-Track and the electric turnouts of the Z-Track: they end
+// with an ellipsis, and a tooltip tells them whole.
+constexpr std::size_t kUsualLetters = 46;
 
 enum Column { kPieceColumn = 0, kCountColumn = 1 };
 
@@ -44,11 +42,6 @@ TallyList::TallyList(wxWindow* parent)
   AppendColumn("Piece", wxLIST_FORMAT_LEFT, kPieceWidth);
   AppendColumn("Count", wxLIST_FORMAT_RIGHT, kCountWidth);
   SetFont(GetFont().Smaller());  // those of usual curves are too long for the panel otherwise
-  wxFont font = GetFont();
-  for (wxItemAttr& size : sizes_) {
-    size.SetFont(font);
-    font = font.Scaled(kNarrower);
-  }
   heading_.SetFont(GetFont().Bold());
   heading_.SetTextColour(wxColour(60, 60, 160));
   Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
@@ -80,7 +73,7 @@ wxString TallyList::tipAt(wxPoint point) const {
   const long row = const_cast<TallyList*>(this)->HitTest(point, flags);
   if (row < 0 || static_cast<std::size_t>(row) >= rows_.size()) return {};
   const wxString text = CellText(rows_[static_cast<std::size_t>(row)].text);
-  const bool fits = widthIn(sizes_.size() - 1, text) + kCellPadding <= GetColumnWidth(kPieceColumn);
+  const bool fits = GetTextExtent(text).x + kCellPadding <= GetColumnWidth(kPieceColumn);
   return fits ? wxString() : text;
 }
 
@@ -88,24 +81,9 @@ int TallyList::usualWidth() const {
   int widest = 0;
   for (std::int32_t i = 0; i < catalog().pieceCount(); ++i) {
     const wxString text = ToWx(catalog().pieceAt(i)->description);
-    if (text.length() <= kUsualLetters) widest = std::max(widest, widthIn(sizes_.size() - 1, text));
+    if (text.length() <= kUsualLetters) widest = std::max(widest, GetTextExtent(text).x);
   }
   return widest + kCellPadding + kCountWidth + 2 * kListBorder;
-}
-
-int TallyList::widthIn(std::size_t font, const wxString& text) const {
-  int width = 0;
-  int height = 0;
-  const wxFont used = sizes_[font].GetFont();
-  GetTextExtent(text, &width, &height, nullptr, nullptr, &used);
-  return width;
-}
-
-std::size_t TallyList::fontFor(const wxString& text) const {
-  const int room = GetColumnWidth(kPieceColumn) - kCellPadding;
-  std::size_t font = 0;
-  while (font + 1 < sizes_.size() && widthIn(font, text) > room) ++font;
-  return font;
 }
 
 wxString TallyList::OnGetItemText(long item, long column) const {
@@ -117,8 +95,7 @@ wxString TallyList::OnGetItemText(long item, long column) const {
 wxItemAttr* TallyList::OnGetItemAttr(long item) const {
   const auto at = static_cast<std::size_t>(item);
   if (item < 0 || at >= rows_.size()) return nullptr;
-  if (rows_[at].heading) return &heading_;
-  return &sizes_[fontFor(CellText(rows_[at].text))];
+  return rows_[at].heading ? &heading_ : nullptr;
 }
 
 // The counts are as wide as they need, the descriptions take the room that is left.

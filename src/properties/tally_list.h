@@ -3,8 +3,6 @@
 
 #include <wx/listctrl.h>
 
-#include <array>
-#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -20,7 +18,7 @@ class TallyList : public wxListCtrl {
   void showRows(std::vector<TallyRow> rows);
   const std::vector<TallyRow>& rows() const { return rows_; }
 
-  // The width at which nearly all descriptions of the catalog are shown whole, in pixels.
+  // The width at which most descriptions of the catalog are shown whole, in pixels.
   int usualWidth() const;
 
   // What a tooltip at this point of the list says: the text of a row that is cut off in its column,
@@ -31,15 +29,11 @@ class TallyList : public wxListCtrl {
   wxString OnGetItemText(long item, long column) const override;
   wxItemAttr* OnGetItemAttr(long item) const override;
 
-  std::size_t fontFor(const wxString& text) const;
-  int widthIn(std::size_t font, const wxString& text) const;
   void fitColumns();
   void onMotion(wxMouseEvent& event);
 
   std::vector<TallyRow> rows_;
   mutable wxItemAttr heading_;
-  // From the list's own size downward: a long description takes the first that lets it fit.
-  mutable std::array<wxItemAttr, 3> sizes_;
   long tipRow_ = wxNOT_FOUND;
 };
 

@@ -212,29 +212,33 @@ TEST_F(TallyPanelTest, ShowsTheDescriptionsOfUsualCurvesWhole) {
   }
 }
 
-TEST_F(TallyPanelTest, WritesLongDescriptionsInSmallerLettersUntilTheyFit) {
-  // At this width a short, a long and a very long one.
-  for (const char* part : {"2205", "2290", "24188"}) Place(plan(), part);
+TEST_F(TallyPanelTest, WritesAllDescriptionsInLettersOfOneSize) {
+  // A short, a long and a very long one, and a count.
+  for (const char* part : {"24188", "2290", "2270", "24611"}) Place(plan(), part);
+  panel->RefreshTally();
+  show();
+  ASSERT_EQ(list->GetItemCount(), 7);  // with the heading, a motor and a decoder
+  for (const int width : {200, 280, 700}) {
+    resize(width, 400);
+    for (long row = 0; row < list->GetItemCount(); ++row) {
+      wxFont used = list->GetItemFont(row);
+      if (!used.IsOk()) used = list->GetFont();
+      EXPECT_EQ(used.GetFractionalPointSize(), list->GetFont().GetFractionalPointSize())
+          << list->GetItemText(row, 0);
+    }
+  }
+}
+
+TEST_F(TallyPanelTest, IsUsuallyWideEnoughForTheDescriptionsOfTheCTrackAndOfStraights) {
+  for (const char* part : {"24712", "24294", "24740", "2200"}) Place(plan(), part);
   panel->RefreshTally();
   show();
   resize(panel->usualWidth(), 400);
-  const double usual = list->GetFont().GetFractionalPointSize();
-  const auto size = [this](long row) { return list->GetItemFont(row).GetFractionalPointSize(); };
-  ASSERT_EQ(list->GetItemText(1, 0), "2290 Straight Feeder Track Length 180 mm / 7-3/32\"");
-  EXPECT_EQ(size(2), usual);
-  EXPECT_LT(size(1), usual);
-  EXPECT_GE(size(1), 6.5) << "smaller letters are hard to read";
-  const wxFont used = list->GetItemFont(1);
-  int width = 0;
-  int height = 0;
-  list->GetTextExtent(list->GetItemText(1, 0), &width, &height, nullptr, nullptr, &used);
-  EXPECT_LE(width + 12, list->GetColumnWidth(0));
-  wxRect row;
-  ASSERT_TRUE(list->GetItemRect(1, row));
-  EXPECT_EQ(list->tipAt(row.GetPosition() + wxPoint(20, 5)), "");
-
-  resize(700, 400);
-  EXPECT_EQ(size(1), usual) << "no smaller than they have to be";
+  for (long row = 0; row < 4; ++row) {
+    wxRect rect;
+    ASSERT_TRUE(list->GetItemRect(row, rect));
+    EXPECT_EQ(list->tipAt(rect.GetPosition() + wxPoint(20, 5)), "") << list->GetItemText(row, 0);
+  }
 }
 
 TEST_F(TallyPanelTest, TellsTheWholeTextOfARowThatIsCutOff) {
