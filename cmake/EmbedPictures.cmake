@@ -1,7 +1,11 @@
-# Writes pictures as the C++ source of EmbeddedPictures(), so that the executable carries them.
-#   cmake -DOUTPUT=FILE -DPICTURES=ID=JPEG,... -P EmbedPictures.cmake
+# Writes pictures as the C++ source of EmbeddedPictures(), so that the executable carries them; with
+# FUNCTION as that of another function of app/services/embedded_pictures.h.
+#   cmake -DOUTPUT=FILE -DPICTURES=ID=FILE,... [-DFUNCTION=NAME] -P EmbedPictures.cmake
 # A picture whose file is missing is left out; without PICTURES there are none.
 cmake_policy(VERSION 3.25)
+if(NOT FUNCTION)
+  set(FUNCTION EmbeddedPictures)
+endif()
 set(arrays "")
 set(rows "")
 string(REPLACE "," ";" pictures "${PICTURES}")
@@ -23,9 +27,9 @@ string(CONCAT source "// Written by cmake/EmbedPictures.cmake.\n"
   "#include \"app/services/embedded_pictures.h\"\n\nnamespace vantrel {\n")
 if(rows)
   string(APPEND source "namespace {\n\n${arrays}constexpr EmbeddedPicture kPictures[] = {\n${rows}};\n\n"
-    "}  // namespace\n\nstd::span<const EmbeddedPicture> EmbeddedPictures() {\n  return kPictures;\n}\n")
+    "}  // namespace\n\nstd::span<const EmbeddedPicture> ${FUNCTION}() {\n  return kPictures;\n}\n")
 else()
-  string(APPEND source "\nstd::span<const EmbeddedPicture> EmbeddedPictures() {\n  return {};\n}\n")
+  string(APPEND source "\nstd::span<const EmbeddedPicture> ${FUNCTION}() {\n  return {};\n}\n")
 endif()
 string(APPEND source "\n}  // namespace vantrel\n")
 file(WRITE "${OUTPUT}" "${source}")

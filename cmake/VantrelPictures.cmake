@@ -1,5 +1,5 @@
-# The pictures that the program shows in its playful mood, compiled in from resources/. Without
-# them, or without one of their files, it goes without.
+# The pictures that the program shows in its playful mood, and the icon of its windows, compiled in
+# from resources/. Without them, or without one of their files, it goes without.
 option(VANTREL_PICTURES "Put the pictures of resources/ into the executable" ON)
 
 file(GLOB vantrel_picture_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/*.jpg)
@@ -25,3 +25,21 @@ add_custom_command(OUTPUT ${vantrel_pictures_source}
   DEPENDS ${vantrel_pictures_script} ${vantrel_picture_depends}
   COMMENT "Embedding the pictures" VERBATIM)
 target_sources(vantrel_services PRIVATE ${vantrel_pictures_source})
+
+# By their sides in pixels.
+set(vantrel_icons "")
+set(vantrel_icon_depends "")
+foreach(side 16 24 32 48 64 128)
+  set(file ${CMAKE_SOURCE_DIR}/resources/icons/hicolor/${side}x${side}/apps/vantrel.png)
+  list(APPEND vantrel_icons "${side}=${file}")
+  list(APPEND vantrel_icon_depends ${file})
+endforeach()
+list(JOIN vantrel_icons "," vantrel_icons)
+
+set(vantrel_icons_source ${CMAKE_BINARY_DIR}/generated/embedded_icons.cpp)
+add_custom_command(OUTPUT ${vantrel_icons_source}
+  COMMAND ${CMAKE_COMMAND} -DOUTPUT=${vantrel_icons_source} -DPICTURES=${vantrel_icons}
+    -DFUNCTION=EmbeddedIcons -P ${vantrel_pictures_script}
+  DEPENDS ${vantrel_pictures_script} ${vantrel_icon_depends}
+  COMMENT "Embedding the icon" VERBATIM)
+target_sources(vantrel_services PRIVATE ${vantrel_icons_source})

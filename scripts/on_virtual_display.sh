@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # on_virtual_display.sh COMMAND...: runs a command on a virtual display of its own with a window
-# manager, and takes both down again. The exit status is the command's.
+# manager, and takes both down again. The exit status is the command's. VIRTUAL_DISPLAY_SIZE=800x600
+# makes it a small one.
 set -uo pipefail
 
 numbers=$(mktemp)
-Xvfb -displayfd 3 -screen 0 1600x1100x24 -nolisten tcp 3>"$numbers" 2>/dev/null &
+Xvfb -displayfd 3 -screen 0 "${VIRTUAL_DISPLAY_SIZE:-1600x1100}x24" -nolisten tcp 3>"$numbers" 2>/dev/null &
 server=$!
 window_manager=
 cleanup() {

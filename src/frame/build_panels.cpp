@@ -3,10 +3,12 @@
 #include <wx/splitter.h>
 
 #include <algorithm>
+#include <memory>
 
 #include "app/services/frame_log.h"
 #include "canvas/canvas_panel.h"
 #include "frame/main_frame.h"
+#include "frame/side_panes.h"
 #include "frame/store_folder.h"
 #include "palette/palette_panel.h"
 #include "properties/properties_panel.h"
@@ -20,7 +22,6 @@ constexpr int kPaletteSash = 235;
 constexpr int kPropertiesSash = 280;  // from the right
 constexpr int kOuterMinPane = 150;
 constexpr int kInnerMinPane = 200;
-constexpr int kSmallestSplitter = 50;
 
 // Beside the program, as the store is.
 const char* const kLibraryFolder = "library";
@@ -29,16 +30,11 @@ const char* const kLibraryFolder = "library";
 constexpr double kLeftStays = 0.0;
 constexpr double kLeftGrows = 1.0;
 
-// The splitter has its size before it is split, and hears nothing of the sizes of next to nothing
-// that windows pass through while they come up: each of them would drag the sash along.
 wxSplitterWindow* MakeSplitter(wxWindow* parent, wxSize size, double gravity) {
   auto* splitter = new wxSplitterWindow(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                                         wxSP_LIVE_UPDATE | wxSP_NOBORDER);
   splitter->SetSize(size);
   splitter->SetSashGravity(gravity);
-  splitter->Bind(wxEVT_SIZE, [](wxSizeEvent& event) {
-    if (event.GetSize().x >= kSmallestSplitter) event.Skip();
-  });
   return splitter;
 }
 
@@ -60,15 +56,18 @@ void MainFrame::buildPanels() {
   canvas_ = new CanvasPanel(inner, *this);
   palette_->connectCanvas(*canvas_);
   FrameLog("BuildPanels: canvas created");
-  properties_ = new PropertiesPanel(inner, *this);
+  wxWindow* right = buildProperties(inner);
   FrameLog("BuildPanels: properties created");
   const int propertiesSash =
       std::max(kPropertiesSash, properties_->usualWidth() + inner->GetSashSize());
-  inner->SplitVertically(canvas_, properties_, -propertiesSash);
+  inner->SplitVertically(canvas_, right, -propertiesSash);
   inner->SetMinimumPaneSize(kInnerMinPane);
   FrameLog("BuildPanels: split done");
   outer->SplitVertically(palette_, inner, paletteSash);
   outer->SetMinimumPaneSize(kOuterMinPane);
+  panes_ = std::make_unique<SidePanes>(
+      *outer, *inner,
+      PaneWidths{.palette = paletteSash, .properties = propertiesSash - inner->GetSashSize()});
   FrameLog("BuildPanels: adding to sizer");
   sizer->Add(outer, 1, wxEXPAND);
   FrameLog("BuildPanels: outerSplit added");
@@ -79,6 +78,19 @@ void MainFrame::buildPanels() {
   palette_->RefreshAll();
   UpdateTitle();
   FrameLog("BuildPanels: palette populated");
+}
+
+// The way to the store stands below what scrolls: in a low window it is there, too.
+wxWindow* MainFrame::buildProperties(wxWindow* parent) {
+  auto* pane = new wxPanel(parent);
+  auto* foot = new wxPanel(pane);
+  properties_ = new PropertiesPanel(pane, *this, foot);
+  foot->MoveAfterInTabOrder(properties_);
+  auto* column = new wxBoxSizer(wxVERTICAL);
+  column->Add(properties_, 1, wxEXPAND);
+  column->Add(foot, 0, wxEXPAND);
+  pane->SetSizer(column);
+  return pane;
 }
 
 }  // namespace vantrel

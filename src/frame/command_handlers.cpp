@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "app/services/program_icons.h"
 #include "canvas/canvas_panel.h"
 #include "canvas/gestures/lock_boxes.h"
 #include "canvas/gestures/view_navigation.h"
@@ -20,6 +21,7 @@
 #include "frame/experience_dialog.h"
 #include "frame/help_dialog.h"
 #include "frame/main_frame.h"
+#include "frame/zoom_keys.h"
 #include "view3d/view3d_frame.h"
 #include "workspace/status_text.h"
 
@@ -98,6 +100,11 @@ void MainFrame::onZoomToFit(wxCommandEvent&) {
   canvas_->zoomToFit(false);
 }
 
+void MainFrame::onCharHook(wxKeyEvent& event) {
+  const int command = ZoomCommandFor(event, FindFocus(), *canvas_);
+  if (command == wxID_NONE || !ProcessCommand(command)) event.Skip();
+}
+
 void MainFrame::onShowGrid(wxCommandEvent& event) {
   canvas_->showGrid(event.IsChecked());
 }
@@ -169,6 +176,7 @@ void MainFrame::on3DView(wxCommandEvent&) {
     return;
   }
   view3D_ = new View3DFrame(this, layout_);
+  view3D_->SetIcons(ProgramIcons());
   view3D_->Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
     view3D_ = nullptr;
     event.Skip();

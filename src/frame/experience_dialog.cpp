@@ -51,6 +51,7 @@ ExperienceDialog::ExperienceDialog(wxWindow* parent)
   column->Add(question, 0, wxALIGN_CENTRE_HORIZONTAL | wxALL, kTextBorder);
   column->Add(row, 0, wxEXPAND);
   SetSizerAndFit(column);
+  SetEscapeId(kDownToBusiness);  // what closing by the title bar means, too
   Centre(wxBOTH);
 }
 

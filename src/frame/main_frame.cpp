@@ -1,19 +1,24 @@
 #include "frame/main_frame.h"
 
 #include <wx/app.h>
+#include <wx/display.h>
 #include <wx/menu.h>
 #include <wx/statusbr.h>
 #include <wx/toolbar.h>
 #include <wx/utils.h>
 
 #include "app/services/frame_log.h"
+#include "app/services/opening_size.h"
 #include "app/services/prefs.h"
+#include "app/services/program_icons.h"
 #include "app/services/wx_text.h"
 #include "canvas/canvas_panel.h"
 #include "frame/commands.h"
 #include "frame/experience_dialog.h"
 #include "frame/menus.h"
+#include "frame/pane_widths.h"
 #include "frame/program_title.h"
+#include "frame/side_panes.h"
 #include "frame/splash_dialog.h"
 #include "frame/store_folder.h"
 #include "frame/tools_menu.h"
@@ -29,6 +34,7 @@ constexpr int kStatusFields = 3;
 // What the fields of the status bar have room for.
 constexpr const char* kWidestPieces = "Pieces: 1000000";
 constexpr const char* kWidestPosition = "-100000 mm,  -100000 mm";
+constexpr int kSmallestLines = 20;  // of text that the panes have room for
 constexpr int kPageMarginMm = 15;
 constexpr int kLongestWaitMs = 1000;
 constexpr int kWaitStepMs = 10;
@@ -40,6 +46,8 @@ MainFrame::MainFrame(const ProgramFolders& folders)
               wxDEFAULT_FRAME_STYLE),
       folders_(folders) {
   StartFrameLog(folders_.data);
+  SetSize(OpeningRect(kFrameSize, wxDisplay(this).GetClientArea()).GetSize());
+  SetIcons(ProgramIcons());
   FrameLog("A: wxFrame base constructed");
   BuildMenuBar(*this);
   BindToolCommands(*this);
@@ -55,7 +63,9 @@ MainFrame::MainFrame(const ProgramFolders& folders)
   setStatus(kStatusPieces, PiecesText(0));
   setStatus(kStatusPosition, "x: 0  y: 0 mm");
   FrameLog("E: StatusBar done");
+  limitSize();
   Centre(wxBOTH);
+  TellOpeningSize(*this);
   FrameLog("F: MainFrame constructor complete");
   preparePrinting();
   watchFirstPaint();
@@ -65,8 +75,8 @@ MainFrame::MainFrame(const ProgramFolders& folders)
 }
 
 MainFrame::~MainFrame() {
-  // The preview and the 3D window look at the document, and the panels hold this frame as their workspace: they go
-  // while it still is one.
+  // The preview and the 3D window look at the document, and the panels hold this frame as their
+  // workspace: they go while it still is one.
   delete preview_.get();
   delete view3D_;
   if (root_) root_->Destroy();
@@ -81,6 +91,15 @@ void MainFrame::divideStatusBar() {
   const int position = bar.GetTextExtent(kWidestPosition).x + gap + bar.GetSize().y;
   const int widths[kStatusFields] = {-1, pieces, position};
   SetStatusWidths(kStatusFields, widths);
+}
+
+// In a smaller window something could be reached no more: a pane would lie beneath another, or the
+// palette show no part.
+void MainFrame::limitSize() {
+  const wxSize least(panes_->smallestWidth(), kSmallestLines * GetCharHeight());
+  wxSize smallest = ClientToWindowSize(least);
+  smallest.DecTo(wxDisplay(this).GetClientArea().GetSize());
+  SetMinSize(smallest);
 }
 
 void MainFrame::preparePrinting() {
@@ -215,6 +234,7 @@ wxBEGIN_EVENT_TABLE(MainFrame, wxFrame)
   EVT_UPDATE_UI(kCmdDelete, MainFrame::onUpdateUi)
   EVT_UPDATE_UI(kCmdTunnel, MainFrame::onUpdateTunnel)
   EVT_CLOSE(MainFrame::onCloseWindow)
+  EVT_CHAR_HOOK(MainFrame::onCharHook)
 wxEND_EVENT_TABLE()
 // clang-format on
 

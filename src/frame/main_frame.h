@@ -6,6 +6,7 @@
 #include <wx/frame.h>
 #include <wx/weakref.h>
 
+#include <memory>
 #include <string>
 
 #include "app/services/program_folders.h"
@@ -18,6 +19,7 @@ namespace vantrel {
 class CanvasPanel;
 class PalettePanel;
 class PropertiesPanel;
+class SidePanes;
 class View3DFrame;
 
 class MainFrame : public wxFrame, public Workspace {
@@ -73,6 +75,8 @@ class MainFrame : public wxFrame, public Workspace {
 
  private:
   void buildPanels();
+  wxWindow* buildProperties(wxWindow* parent);
+  void limitSize();
   void divideStatusBar();
   void preparePrinting();
   void watchFirstPaint();
@@ -130,10 +134,12 @@ class MainFrame : public wxFrame, public Workspace {
   void onUpdateUi(wxUpdateUIEvent& event);
   void onUpdateTunnel(wxUpdateUIEvent& event);
   void onCloseWindow(wxCloseEvent& event);
+  void onCharHook(wxKeyEvent& event);
 
   ProgramFolders folders_;
   vantrel::Layout layout_;  // the name alone is a function of every window
   wxWindow* root_ = nullptr;
+  std::unique_ptr<SidePanes> panes_;
   PalettePanel* palette_ = nullptr;
   CanvasPanel* canvas_ = nullptr;
   PropertiesPanel* properties_ = nullptr;

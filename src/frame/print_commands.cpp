@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "app/services/program_icons.h"
 #include "canvas/canvas_panel.h"
 #include "dialogs/message_boxes.h"
 #include "dialogs/print_options_dialog.h"
@@ -116,6 +117,7 @@ void MainFrame::onPrintPreview(wxCommandEvent&) {
   preview_ = window;
   window->Centre(wxBOTH);
   window->Initialize();
+  window->SetIcons(ProgramIcons());
   window->Show();
 }
 

@@ -78,7 +78,7 @@ wxBoxSizer* AddFramed(wxSizer* column, wxStaticBoxSizer* frame, wxOrientation di
 
 }  // namespace
 
-void PropertiesPanel::build() {
+void PropertiesPanel::build(wxWindow* foot) {
   auto* column = new wxBoxSizer(wxVERTICAL);
   SetSizer(column);
   SetScrollRate(0, kScrollStep);
@@ -87,7 +87,7 @@ void PropertiesPanel::build() {
   buildLevelRow(column);
   buildColourBox(column);
   buildGradeBox(column);
-  tally_ = new TallyPanel(this, workspace_);
+  tally_ = new TallyPanel(this, workspace_, {}, foot);
   column->Add(tally_, 1, wxEXPAND);
 }
 

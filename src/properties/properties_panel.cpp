@@ -27,12 +27,10 @@
 namespace vantrel {
 namespace {
 
-// Setting a label anew, even to the same text, makes it flicker. True when it changed.
-bool SetTextOf(wxStaticText& control, std::string_view text) {
+// Setting a label anew, even to the same text, makes it flicker.
+void SetTextOf(wxStaticText& control, std::string_view text) {
   const wxString shown = ToWx(text);
-  if (control.GetLabelText() == shown) return false;
-  control.SetLabelText(shown);
-  return true;
+  if (control.GetLabelText() != shown) control.SetLabelText(shown);
 }
 
 void SetColourOf(wxWindow& control, const wxColour& colour) {
@@ -68,9 +66,9 @@ std::int32_t IdFrom(const void* clientData) {
 
 }  // namespace
 
-PropertiesPanel::PropertiesPanel(wxWindow* parent, Workspace& workspace)
+PropertiesPanel::PropertiesPanel(wxWindow* parent, Workspace& workspace, wxWindow* foot)
     : wxScrolled<wxPanel>(parent, wxID_ANY), workspace_(workspace) {
-  build();
+  build(foot);
   bindEvents();
   ShowNoSelection();
 }

@@ -38,7 +38,8 @@ inline constexpr int kApplyColourId = 4110;
 // Scrolls only in a window too low for its controls.
 class PropertiesPanel : public wxScrolled<wxPanel> {
  public:
-  PropertiesPanel(wxWindow* parent, Workspace& workspace);
+  // The tally's buttons lie on the `foot`, by default at the end of the panel.
+  PropertiesPanel(wxWindow* parent, Workspace& workspace, wxWindow* foot = nullptr);
 
   // Shows what is selected, and recounts. A control that has the focus keeps what the user put into
   // it as long as the same thing is shown with the same value.
@@ -63,7 +64,7 @@ class PropertiesPanel : public wxScrolled<wxPanel> {
   // Whether a refresh may overwrite what the user is typing.
   enum class Typed { keep, replace };
 
-  void build();
+  void build(wxWindow* foot);
   void buildLabelBox(wxSizer* column);
   void buildTitle(wxSizer* column);
   void buildLevelRow(wxSizer* column);

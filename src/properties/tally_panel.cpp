@@ -26,7 +26,7 @@ constexpr int kBuyPointsLarger = 2;
 
 }  // namespace
 
-TallyPanel::TallyPanel(wxWindow* parent, Workspace& workspace, Browser browser)
+TallyPanel::TallyPanel(wxWindow* parent, Workspace& workspace, Browser browser, wxWindow* foot)
     : wxPanel(parent),
       workspace_(workspace),
       browser_(browser ? std::move(browser) : Browser(OpenInBrowser)) {
@@ -36,12 +36,14 @@ TallyPanel::TallyPanel(wxWindow* parent, Workspace& workspace, Browser browser)
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(title, 0, wxLEFT | wxRIGHT | wxTOP, kBorder);
   column->Add(list_, 1, wxEXPAND | wxLEFT | wxRIGHT | wxTOP, kBorder);
-  column->Add(buildButtonRow(), 0, wxEXPAND | wxALL, kBorder);
   SetSizer(column);
+  wxSizer* below = column;
+  if (foot) foot->SetSizer(below = new wxBoxSizer(wxVERTICAL));
+  below->Add(buildButtonRow(foot ? foot : this), 0, wxEXPAND | wxALL, kBorder);
 }
 
-wxSizer* TallyPanel::buildButtonRow() {
-  auto* buy = new wxButton(this, wxID_ANY, "  Buy Track  ");
+wxSizer* TallyPanel::buildButtonRow(wxWindow* on) {
+  auto* buy = new wxButton(on, wxID_ANY, "  Buy Track  ");
   wxFont font = buy->GetFont();
   font.SetPointSize(font.GetPointSize() + kBuyPointsLarger);
   font.SetWeight(wxFONTWEIGHT_EXTRABOLD);
@@ -49,7 +51,7 @@ wxSizer* TallyPanel::buildButtonRow() {
   buy->SetBackgroundColour(StoreGreen());
   buy->SetForegroundColour(*wxWHITE);
   buy->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OnBuyTrack(); });
-  auto* help = new wxButton(this, wxID_ANY, "?", wxDefaultPosition, wxDefaultSize, wxBU_EXACTFIT);
+  auto* help = new wxButton(on, wxID_ANY, "?", wxDefaultPosition, wxDefaultSize, wxBU_EXACTFIT);
   help->SetToolTip("About Buy Track");
   help->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OnBuyTrackHelp(); });
   auto* row = new wxBoxSizer(wxHORIZONTAL);

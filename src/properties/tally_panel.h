@@ -18,7 +18,9 @@ class TallyPanel : public wxPanel {
   using Browser = std::function<void(const std::string& address)>;
 
   // Without a `browser` it is the desktop's default one; when that doesn't start, nothing happens.
-  TallyPanel(wxWindow* parent, Workspace& workspace, Browser browser = {});
+  // The buttons lie on the `foot`, by default on the panel itself, below the list.
+  TallyPanel(wxWindow* parent, Workspace& workspace, Browser browser = {},
+             wxWindow* foot = nullptr);
 
   // The width at which the list shows what it usually holds, in pixels.
   int usualWidth() const;
@@ -27,7 +29,7 @@ class TallyPanel : public wxPanel {
   void RefreshTally();
 
  private:
-  wxSizer* buildButtonRow();
+  wxSizer* buildButtonRow(wxWindow* on);
   void OnBuyTrack();
   void OnBuyTrackHelp();
 

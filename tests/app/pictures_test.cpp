@@ -41,7 +41,7 @@ TEST(Pictures, TheInsetIsUprightAndSuitsBothPlacesThatShowIt) {
 TEST(Pictures, EachIsSmallEnoughToLoadAtEveryStart) {
   ASSERT_EQ(EmbeddedPictures().size(), 3u);
   for (const EmbeddedPicture& picture : EmbeddedPictures())
-    EXPECT_LT(picture.jpeg.size(), 200u * 1024u) << picture.id;
+    EXPECT_LT(picture.data.size(), 200u * 1024u) << picture.id;
 }
 #else
 TEST(Pictures, ABuildWithoutThemCarriesNone) {

@@ -35,6 +35,27 @@ TEST_F(Experience, ClosingByTheTitleBarIsAnAnswerForBusiness) {
   EXPECT_TRUE(Prefs().asked);
 }
 
+TEST_F(Experience, EscapeIsTheSameAnswerAsTheTitleBar) {
+  showFrame();
+  WriteFileText(folders_.prefsPath, "playful=1\nasked=0\n");
+  Prefs() = {true, false};
+  ModalScript script;
+  bool closed = false;
+  script.shown("Choose Your Experience", [&closed](wxDialog& dialog) {
+    wxKeyEvent escape(wxEVT_CHAR_HOOK);
+    escape.m_keyCode = WXK_ESCAPE;
+    escape.SetEventObject(&dialog);
+    dialog.ProcessWindowEvent(escape);
+    closed = !dialog.IsModal() || !dialog.IsShown();
+    if (!closed) dialog.EndModal(kKeepItPlayful);
+  });
+  ask();
+  EXPECT_TRUE(closed);
+  EXPECT_EQ(prefsFile(), "playful=0\nasked=1\n");
+  EXPECT_FALSE(Prefs().playful);
+  EXPECT_TRUE(Prefs().asked);
+}
+
 TEST_F(Experience, KeepItPlayfulIsRemembered) {
   Prefs() = {false, false};
   ModalScript script;

@@ -13,6 +13,7 @@
 #include "palette/palette_panel.h"
 #include "properties/properties_panel.h"
 #include "tests/frame/frame_fixture.h"
+#include "view3d/view3d_frame.h"
 
 namespace vantrel {
 namespace {
@@ -56,6 +57,18 @@ TEST_F(MainFrameTest, StartsWithItsSizeAndStatus) {
   EXPECT_EQ(statusText(kStatusMessage), "Ready");
   EXPECT_EQ(statusText(kStatusPieces), "Pieces: 0");
   EXPECT_EQ(statusText(kStatusPosition), "x: 0  y: 0 mm");
+}
+
+// Dialogs take the icon of the window that they belong to.
+TEST_F(MainFrameTest, HasTheProgramsIconInAllSizesAndSoHasThe3DWindow) {
+  for (const int side : {16, 24, 32, 48, 64, 128}) {
+    const wxIcon icon = frame().GetIcons().GetIcon(wxSize(side, side), wxIconBundle::FALLBACK_NONE);
+    EXPECT_TRUE(icon.IsOk()) << side;
+  }
+  command(kCmd3DView);
+  ASSERT_NE(frame().view3D(), nullptr);
+  EXPECT_EQ(frame().view3D()->GetIcons().GetIconCount(), 6u);
+  frame().view3D()->Close();
 }
 
 TEST_F(MainFrameTest, PrintsOnLetterInLandscapeWithMarginsOf15Mm) {

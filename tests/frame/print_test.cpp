@@ -326,6 +326,16 @@ TEST_F(Printing, APreviewOpensWithoutADialogAndKeepsTheFrameFromEditing) {
   EXPECT_FALSE(frame().dirty());
 }
 
+TEST_F(Printing, APreviewBearsTheProgramsIcon) {
+  command(5013);
+  auto* window = dynamic_cast<wxTopLevelWindow*>(previewWindow());
+  ASSERT_NE(window, nullptr);
+  EXPECT_EQ(window->GetIcons().GetIconCount(), 6u);
+  window->Close();
+  wxTheApp->Yield();
+  wxTheApp->ProcessIdle();
+}
+
 TEST_F(Printing, FromAPreviewTakesThePrintersDataOnSuccess) {
   showFrame();
   int pages = 0;

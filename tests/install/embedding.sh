@@ -14,7 +14,7 @@ cat >"$scratch/main.cpp" <<'CPP'
 int main() {
   for (const vantrel::EmbeddedPicture& picture : vantrel::EmbeddedPictures()) {
     std::printf("%d:", picture.id);
-    for (const unsigned char byte : picture.jpeg) std::printf("%02x", byte);
+    for (const unsigned char byte : picture.data) std::printf("%02x", byte);
     std::printf("\n");
   }
 }

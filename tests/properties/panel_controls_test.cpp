@@ -228,6 +228,41 @@ TEST_F(PanelControls, APageOfUsualTextsLeavesTheControlsWhereTheyAre) {
   EXPECT_EQ(RectIn(*panel, levelChoice()), before);
 }
 
+// A text that grows makes what stands behind it or below it give way.
+TEST_F(PanelControls, ATextThatGrowsPushesItsNeighboursAside) {
+  show();
+  const std::int32_t id = selectPiece("24188");
+  settle();
+  const int field = RectIn(*panel, heightField()).x;
+  const int hint = RectIn(*panel, text("hint")).y;
+  const int foot = RectIn(*panel, *tally()).y;
+  piece(id).grade = -7.0;  // the warning was empty
+  panel->RefreshSelection();
+  settle();
+  const wxRect warning = RectIn(*panel, text("gradeWarning"));
+  EXPECT_GE(warning.height, text("gradeWarning").GetBestSize().y);
+  EXPECT_GE(RectIn(*panel, text("hint")).y, warning.y + warning.height);
+  EXPECT_GT(RectIn(*panel, text("hint")).y, hint);
+  EXPECT_GT(RectIn(*panel, *tally()).y, foot);
+  EXPECT_GE(text("gradeValue").GetSize().x, text("gradeValue").GetBestSize().x);
+  expectNothingCutOff();
+  expectNoOverlap();
+
+  Helix helix;
+  helix.id = 77;
+  helix.bottomR1 = id;
+  plan().helices.push_back(helix);
+  piece(id).helix = 77;  // "Height (mm):" becomes a longer caption
+  panel->RefreshSelection();
+  settle();
+  ASSERT_EQ(panel->page().kind, PageKind::helix);
+  const wxRect caption = RectIn(*panel, text("heightCaption"));
+  EXPECT_GE(caption.width, text("heightCaption").GetBestSize().x);
+  EXPECT_GT(RectIn(*panel, heightField()).x, caption.x + caption.width);
+  EXPECT_GT(RectIn(*panel, heightField()).x, field);
+  expectNoOverlap();
+}
+
 TEST_F(PanelControls, ATitleTakesFewerLinesInAWiderPanel) {
   show();
   selectPiece("24224");

@@ -12,7 +12,7 @@ wxImage LoadPicture(int id, std::span<const EmbeddedPicture> pictures) {
   for (const EmbeddedPicture& picture : pictures) {
     if (picture.id != id) continue;
     if (!wxImage::FindHandler(wxBITMAP_TYPE_JPEG)) wxImage::AddHandler(new wxJPEGHandler);
-    wxMemoryInputStream stream(picture.jpeg.data(), picture.jpeg.size());
+    wxMemoryInputStream stream(picture.data.data(), picture.data.size());
     image.LoadFile(stream, wxBITMAP_TYPE_JPEG);
     break;
   }
