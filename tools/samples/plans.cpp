@@ -68,7 +68,7 @@ Layout DoubleOval() {
   plan.scenery("truck", {road + 12.0, origin.y + 200.0, 270.0});
   plan.scenery("signal_box", {origin.x + 1010.0, nearSide + 90.0, 0.0});
   for (const double x : {-430.0, 700.0, 880.0, 960.0})
-    plan.scenery("tree_group", {middle + x, nearSide + 350.0, x});
+    plan.scenery("tree_group", {middle + x, nearSide + 350.0, 0.0});
   for (const double x : {-380.0, -300.0, 420.0, 500.0, 600.0})
     plan.scenery("tree_conifer", {middle + x, nearSide + 300.0 + x / 10.0, 0.0});
   for (const Vec2 at : {Vec2{-300.0, 180.0}, {-120.0, 640.0}, {80.0, 660.0}, {420.0, 620.0}})
@@ -135,7 +135,7 @@ Layout KTerminus() {
                         {760.0, 1080.0},
                         {1050.0, 980.0},
                         {1230.0, 1090.0}})
-    plan.scenery("tree_group", {at.x, at.y, at.x});
+    plan.scenery("tree_group", {at.x, at.y, 0.0});
   for (const Vec2 at : {Vec2{480.0, 520.0},
                         {820.0, 470.0},
                         {980.0, 440.0},
@@ -239,7 +239,7 @@ Layout TrixViaduct() {
               {origin.x - 10.0, bridges + 120.0}},
              110, 160, 215, "River");
   for (const Vec2 at : {Vec2{40.0, 130.0}, {250.0, 300.0}, {560.0, 140.0}, {-120.0, 420.0}})
-    plan.scenery("tree_group", {origin.x + at.x, origin.y + at.y, at.y});
+    plan.scenery("tree_group", {origin.x + at.x, origin.y + at.y, 0.0});
   for (const Vec2 at : {Vec2{150.0, 110.0},
                         {320.0, 130.0},
                         {430.0, 150.0},
@@ -315,7 +315,7 @@ Layout TwoDecks() {
   plan.scenery("signal_color_clear", {1180.0, 1022.0, 0.0});
   plan.scenery("parking_lot", {1820.0, 1450.0, 0.0});
   for (const Vec2 at : {Vec2{2150.0, 1440.0}, {2450.0, 1480.0}, {2800.0, 1450.0}, {1100.0, 1480.0}})
-    plan.scenery("tree_group", {at.x, at.y, at.x});
+    plan.scenery("tree_group", {at.x, at.y, 0.0});
   for (const Vec2 at : {Vec2{2300.0, 1500.0}, {2640.0, 1420.0}, {3020.0, 1500.0}, {2960.0, 940.0}})
     plan.scenery("tree_conifer", {at.x, at.y, 0.0});
   plan.label("Staging tracks", {1400.0, 70.0});

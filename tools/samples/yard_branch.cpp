@@ -34,7 +34,7 @@ void LayBranch(SampleBuilder& plan, End foot) {
   FinishTrack(plan, platform, kBuffers);
   for (int i = 0; i < 4; ++i)
     plan.scenery("platform_island", {kBuffers + 300.0 + 460.0 * i, y, 0.0}, {1.0, 100.0 / 120.0});
-  plan.scenery("station_small", {kBuffers - 90.0, y - 30.0, 270.0});
+  plan.scenery("station_small", {kBuffers - 90.0, 178.0, 270.0});
 }
 
 }  // namespace vantrel::samples::yard

@@ -21,11 +21,7 @@ void Block(SampleBuilder& plan, std::vector<Vec2> outline, double height, Colour
 }
 
 void Plant(SampleBuilder& plan, std::string_view item, std::initializer_list<Vec2> places) {
-  double heading = 0.0;
-  for (const Vec2 place : places) {
-    plan.scenery(item, {place.x, place.y, heading});
-    heading += 75.0;
-  }
+  for (const Vec2 place : places) plan.scenery(item, {place.x, place.y, 0.0});
 }
 
 void LayGround(SampleBuilder& plan) {

@@ -37,8 +37,13 @@ void LayPlatforms(SampleBuilder& plan, const Rows& tracks) {
   for (int i = 0; i < 3; ++i)
     plan.scenery("platform", {kBuffers + 45.0, RowY(-5) + 115.0 + 230.0 * i, 90.0});
   plan.scenery("station_large", {kBuffers + 175.0, RowY(-1), 90.0});
-  for (const int row : {-5, -2, 0, 3})
-    plan.scenery("signal_color_stop", {4980.0, RowY(row) + (row < 0 ? -38.75 : 38.75), 270.0});
+  // Beside the track that they stop, half a row from it; on the way in, one is clear.
+  const auto signal = [&](std::string_view item, double x, double row) {
+    plan.scenery(item, {x, RowY(0) + row * kPitch, 270.0});
+  };
+  for (const double row : {-4.5, -2.5, 0.5, 3.5}) signal("signal_color_stop", 5060.0, row);
+  signal("signal_color_clear", 3440.0, 1.5);
+  signal("signal_semaphore_stop", 3200.0, -0.5);
 }
 
 void LayGoodsYard(SampleBuilder& plan, const Rows& tracks) {
