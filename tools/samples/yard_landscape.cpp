@@ -29,8 +29,8 @@ void LayGround(SampleBuilder& plan) {
   // The terrace of the station leaves the corner free where the track to the helix comes out.
   Block(plan, {{200, 10}, {7900, 10}, {7900, 1000}, {6880, 1462}, {200, 1462}}, kDeckHeight,
         kMeadow);
-  Block(plan, {{200, 1462}, {620, 1462}, {620, 2800}, {200, 2800}}, kDeckHeight, kMeadow);
-  Block(plan, {{620, 2545}, {1075, 2545}, {1075, 2800}, {620, 2800}}, kDeckHeight, kMeadow);
+  Block(plan, {{200, 1462}, {620, 1462}, {1075, 2560}, {1075, 2800}, {200, 2800}}, kDeckHeight,
+        kMeadow);
   Block(plan, {{4780, 10}, {7861, 10}, {7861, 345}, {4780, 345}}, 260.0, kHill);
 }
 
@@ -46,12 +46,9 @@ void LayTown(SampleBuilder& plan) {
   Plant(plan, "tree_conifer", {{1350, 1900}, {1620, 1940}, {1950, 2000}, {2350, 1760}});
   Plant(plan, "tree_lg_dec", {{6700, 2300}, {6950, 2420}, {7300, 2180}, {7600, 2350}});
   plan.onLevel(kStation);
-  // A road along the edge of the terrace, and what stands beside it.
-  for (int i = 0; i < 16; ++i) plan.scenery("road_straight", {760.0 + 188.0 * i, 1405.0, 0.0});
-  for (const double x : {900.0, 1400.0, 2330.0, 3100.0}) plan.scenery("car", {x, 1392.0, 180.0});
-  for (const double x : {1180.0, 2650.0, 3350.0}) plan.scenery("car", {x, 1418.0, 0.0});
-  plan.scenery("truck", {1950.0, 1418.0, 0.0});
-  plan.scenery("parking_lot", {3300.0, 1295.0, 0.0});
+  // Post and parcels, beside the carriages.
+  for (const double x : {2700.0, 3150.0}) plan.scenery("warehouse", {x, 1310.0, 0.0}, {1.0, 0.8});
+  plan.scenery("goods_shed", {3500.0, 1300.0, 0.0});
   plan.scenery("signal_box", {3560.0, 700.0, 0.0});
   plan.scenery("water_tower", {1810.0, 250.0, 0.0});
   plan.scenery("coaling_tower", {2420.0, 300.0, 0.0});
@@ -60,19 +57,21 @@ void LayTown(SampleBuilder& plan) {
       {{2100, 150}, {2500, 120}, {3300, 200}, {3650, 330}, {4000, 180}, {4350, 120}, {3900, 440}});
   Plant(plan, "tree_conifer",
         {{1750, 130}, {2300, 190}, {2900, 140}, {3500, 120}, {4150, 260}, {4500, 180}, {4650, 90}});
-  Plant(plan, "tree_lg_dec", {{320, 120}, {620, 1080}, {300, 760}, {3700, 1310}, {3900, 1400}});
-  Plant(plan, "bush", {{700, 1340}, {1000, 1345}, {2800, 1340}, {3050, 1345}, {4100, 1410}});
+  Plant(plan, "tree_lg_dec", {{320, 120}, {620, 1080}, {300, 760}, {3750, 1250}, {4350, 1400}});
+  Plant(plan, "tree_group", {{900, 1380}, {1700, 1390}, {2250, 1370}, {4550, 1390}});
+  Plant(plan, "tree_conifer",
+        {{1150, 1400}, {1400, 1380}, {2000, 1400}, {3800, 1400}, {4200, 1410}});
 }
 
 void LabelAll(SampleBuilder& plan) {
-  plan.label("Loco depot", {1450.0, 100.0});
-  plan.label("Branch terminus, 260 mm up", {5700.0, 195.0});
-  plan.label("Central station, 130 mm up", {5750.0, 650.0});
-  plan.label("Carriage sidings", {1350.0, 1240.0});
+  plan.label("Depot", {1500.0, 100.0});
+  plan.label("Branch", {4300.0, 60.0});
+  plan.label("Central station", {5500.0, 640.0});
+  plan.label("Carriages", {1350.0, 1235.0});
   plan.label("Goods yard", {3950.0, 1330.0});
-  plan.label("Hidden yard; its cover is a level of its own", {1080.0, 1700.0});
-  plan.label("Two ramps, 1.5 degrees", {6500.0, 2430.0});
-  plan.label("Factory", {5200.0, 2990.0});
+  plan.label("Hidden yard", {1500.0, 1750.0});
+  plan.label("Two ramps, 1.5 degrees", {6000.0, 2400.0});
+  plan.label("Factory", {3000.0, 2990.0});
   plan.label("Helix", {8250.0, 480.0});
 }
 
