@@ -161,6 +161,7 @@ constexpr PaintStep kPaintStill[] = {
 constexpr PaintStep kPaintMoving[] = {
     drawScaleHandles,
     showGradeRuns,
+    showPrompt,
     drawRubberBand,
     drawPolygonDraft,
     drawMeasureDraft,

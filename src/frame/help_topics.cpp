@@ -30,8 +30,9 @@ and TRIX HO C-Track, Marklin HO K-Track, and Marklin Z Track.
 
 The window has three parts. On the left is the palette, with everything you can lay: track, saved
 blocks, scenery and signals. In the middle is the canvas, your plan seen from above. On the right
-you see what is selected, change it, and read what your plan needs. The line at the bottom shows
-hints, the number of pieces, and where the pointer is.
+you see what is selected, change it, and read what your plan needs. The line at the bottom tells
+how to go on while a tool is in use or a part hangs at the pointer, the number of pieces, and where
+the pointer is.
 
 Try things freely: Ctrl+Z takes back nearly everything, one step at a time, and Ctrl+Y brings it
 back.
@@ -151,7 +152,7 @@ joined as well: that is how rings close. While Snap in the View menu is off, not
 
 To add track to track: double-click a piece on the canvas, and one more of its kind is joined to
 its free end. Double-click a part in the palette, and it is joined to the selected piece, of
-several to the one laid last.
+several to the one laid last. The view follows where the new end would be out of sight.
 
 To copy: right-click a selected piece and choose Copy, then right-click empty canvas and choose
 Paste, as often as you like; the copy lands where you clicked. A left click on empty canvas

@@ -321,6 +321,23 @@ TEST_F(CanvasWindow, AMouseTakenAwayLeavesTheDragAndTheNextPressDrops) {
   EXPECT_EQ(workspace.document.pieces.size(), 1u);
 }
 
+TEST_F(CanvasWindow, AMouseTakenAwayEndsADragOfTheSelectionWhereItIs) {
+  lay("24188", {250.0, 200.0, 0.0});
+  mouse(wxEVT_LEFT_DOWN, 190, 140, true);
+  mouse(wxEVT_MOTION, 210, 148, true);
+  ASSERT_TRUE(canvas->state().selectionDrag.active);
+  ASSERT_TRUE(canvas->HasCapture());
+  canvas->ReleaseMouse();
+  wxMouseCaptureLostEvent lost(canvas->GetId());
+  lost.SetEventObject(canvas);
+  EXPECT_TRUE(canvas->HandleWindowEvent(lost));
+  EXPECT_FALSE(canvas->state().selectionDrag.active);
+  EXPECT_EQ(workspace.dirtyMarks, 1);
+  // 20 and 8 pixels at 0.4 pixels a mm; the button is still held elsewhere.
+  mouse(wxEVT_MOTION, 300, 300, true);
+  EXPECT_EQ(workspace.document.pieces[0].pose(), (Pose{300.0, 220.0, 0.0}));
+}
+
 TEST_F(CanvasWindow, ADialogDuringADragTakesTheMouseAndTheDragGoesOn) {
   canvas->beginPieceDrag("24188");
   ASSERT_TRUE(canvas->HasCapture());

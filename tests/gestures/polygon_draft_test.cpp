@@ -223,5 +223,18 @@ TEST_F(PolygonDrafts, NearTheFirstVertexTheClosingSegmentAndItsRingShow) {
   EXPECT_EQ(tail[9].textForeground, green);
 }
 
+// 16 right of and 8 above a first vertex that lies elsewhere across than down.
+TEST_F(PolygonDrafts, TheWordCloseStandsBesideTheFirstVertex) {
+  clickLeft(210, 120);
+  clickLeft(400, 120);
+  clickLeft(400, 300);
+  move(213, 124);
+  const std::unique_ptr<RecordingDC> dc = paint();
+  const DrawCall* tail = &dc->calls()[dc->calls().size() - 10];
+  EXPECT_EQ(tail[8].box, wxRect(198, 108, 24, 24));
+  EXPECT_EQ(tail[9].text, "Close");
+  EXPECT_EQ(tail[9].points[0], wxPoint(226, 112));
+}
+
 }  // namespace
 }  // namespace vantrel

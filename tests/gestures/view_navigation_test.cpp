@@ -6,6 +6,7 @@
 #include <limits>
 #include <random>
 
+#include "canvas/gestures/palette_drag.h"
 #include "tests/gestures/canvas_driver.h"
 
 namespace vantrel {
@@ -331,6 +332,77 @@ TEST_F(ViewNavigation, TheRulersTickEvery6InchesAtScale04) {
   const std::vector<DrawCall> labels = dc->texts("6\"");
   ASSERT_FALSE(labels.empty());
   EXPECT_EQ(labels[0].points[0], wxPoint(122, 2));
+}
+
+// The client area is 1160 by 800. A point is seen from 36 pixels on, 20 of the ruler and 16 more,
+// to 1144 and 784.
+class Following : public CanvasTest {
+ protected:
+  void SetUp() override { state.view = {.scale = 0.5, .offsetX = 60.0, .offsetY = 60.0}; }
+  // Lays a straight of 188.3 mm, 94.15 pixels, and selects it.
+  std::int32_t layLast(const Pose& pose) {
+    const std::int32_t id = lay("24188", pose);
+    for (Piece& piece : layout.pieces) piece.sel = piece.id == id;
+    return id;
+  }
+};
+
+TEST_F(Following, APieceLaidFromThePaletteBeyondTheEdgeMovesTheViewJustSoFar) {
+  // It ends at 60 + 0.5 (2000 + 188.3) = 1154.15, the new one at 1248.3: 104.3 too far.
+  layLast({2000.0, 700.0, 0.0});
+  placeByDoubleClick(context, "24188");
+  EXPECT_EQ(state.view, (ViewTransform{.scale = 0.5, .offsetX = -45.0, .offsetY = 60.0}));
+}
+
+TEST_F(Following, APieceWhoseFarEndIsSeenLeavesTheViewAlone) {
+  // The new one ends at 60 + 0.5 (1790 + 376.6) = 1143.3.
+  layLast({1790.0, 700.0, 0.0});
+  placeByDoubleClick(context, "24188");
+  EXPECT_EQ(state.view, (ViewTransform{.scale = 0.5, .offsetX = 60.0, .offsetY = 60.0}));
+}
+
+TEST_F(Following, TheRulersHideAnEndAndTheViewMovesBothWays) {
+  // Along a heading of 225 degrees, 188.3 sin 45 = 133.1482 mm or 66.5741 pixels each way a piece:
+  // two of them end at 125 - 133.1482 = -8.1482 and 145 - 133.1482 = 11.8518.
+  layLast({130.0, 170.0, 225.0});
+  placeByDoubleClick(context, "24188");
+  EXPECT_EQ(state.view, (ViewTransform{.scale = 0.5, .offsetX = 105.0, .offsetY = 85.0}));
+}
+
+TEST_F(Following, ACloneByDoubleClickIsFollowedToo) {
+  lay("24188", {2000.0, 700.0, 0.0});
+  state.view.offsetX = 30.0;
+  // Its middle shows at 30 + 0.5 (2000 + 94.15) = 1077, 410; the clone ends at 1218.3, 74.3 too
+  // far.
+  onDoubleClick(context, at(1077, 410));
+  ASSERT_EQ(layout.pieces.size(), 2u);
+  EXPECT_EQ(state.view, (ViewTransform{.scale = 0.5, .offsetX = -45.0, .offsetY = 60.0}));
+}
+
+// The bumper has one connector, and its far end is where its rails end.
+TEST_F(Following, APieceWithoutAFarConnectorIsFollowedToTheEndOfItsRails) {
+  const double length = findPart("24977")->length;
+  ASSERT_GT(length, 40.0);
+  layLast({2000.0, 700.0, 0.0});
+  placeByDoubleClick(context, "24977");
+  const int end = state.view.toDevice({2188.3 + length, 700.0}).x;
+  EXPECT_GE(end, 1142);
+  EXPECT_LE(end, 1144);
+}
+
+TEST_F(Following, AnEndThatNoViewCanShowLeavesTheViewAlone) {
+  const ViewTransform before = state.view;
+  for (const double far : {1e300, -1e300, std::numeric_limits<double>::quiet_NaN()}) {
+    bringIntoView(context, {far, 0.0});
+    bringIntoView(context, {0.0, far});
+  }
+  EXPECT_EQ(state.view, before);
+}
+
+TEST_F(Following, InAWindowSmallerThanItsMarginsTheEndComesRightBehindTheRuler) {
+  host.client = {40, 30};
+  bringIntoView(context, {1000.0, 500.0});
+  EXPECT_EQ(state.view.toDevice({1000.0, 500.0}), (DevicePoint{36, 36}));
 }
 
 }  // namespace

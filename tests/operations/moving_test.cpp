@@ -357,6 +357,20 @@ TEST(DropSelection, GivesEachPieceOfTheBlockAsManySlotsAsItHasConnectors) {
   EXPECT_EQ(BrokenJoint(plan.layout), "");  // nothing names the slot that is gone
 }
 
+// Their slots were what a file said; nobody has touched them.
+TEST(DropSelection, LeavesTheSlotsOfThePiecesOutsideTheBlockAsTheyAre) {
+  SideBlock plan;
+  const std::int32_t none = LayPiece(plan.layout, "24188", {2000.0, 700.0, 30.0});
+  const std::int32_t many = LayPiece(plan.layout, "24188", {2000.0, 1900.0, 60.0});
+  plan.piece(none).joints.clear();
+  plan.piece(many).joints.assign(5, Joint{});
+  plan.piece(many).joints[4] = {.target = none, .tconn = 3};
+  plan.drop();
+  EXPECT_TRUE(plan.piece(none).joints.empty());
+  ASSERT_EQ(plan.piece(many).joints.size(), 5u);
+  EXPECT_EQ(plan.piece(many).joints[4], (Joint{.target = none, .tconn = 3}));
+}
+
 TEST(DropSelection, TakesTheFirstSelectedPieceAsAnchorWhenTheKeptOneIsGone) {
   SideBlock plan;
   plan.held.piece = 4711;

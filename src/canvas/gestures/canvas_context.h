@@ -143,6 +143,12 @@ struct SceneryResize {
   double scaley = 1.0;
 };
 
+// What the status bar says of the tool or of what hangs at the pointer.
+struct Prompt {
+  std::string text;    // empty while there is none
+  std::string before;  // what stood in its place
+};
+
 struct CanvasState {
   ViewTransform view;
   PaletteDrag paletteDrag;
@@ -166,6 +172,7 @@ struct CanvasState {
   bool swallowNextClick = false;
   // The user has agreed to move graded track; asked once in a run of the program.
   bool gradedMoveConfirmed = false;
+  Prompt prompt;
   CanvasCursor handleCursor = CanvasCursor::normal;  // what the last hover showed
   RenderContext render;
 };

@@ -3,12 +3,15 @@
 #include <wx/dc.h>
 #include <wx/defs.h>
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "canvas/gestures/drag_turning.h"
 #include "canvas/gestures/status_line.h"
 #include "canvas/gestures/target_marker.h"
 #include "canvas/gestures/view_navigation.h"
+#include "canvas/operations/extending.h"
 #include "canvas/operations/placing.h"
 #include "canvas/operations/selection.h"
 #include "catalog/connector_geometry.h"
@@ -110,10 +113,12 @@ void placeByDoubleClick(CanvasContext& context, std::string_view part) {
     beginPieceDrag(context, part);
     return;
   }
-  if (autoConnectPart(context.layout, part) == kNone) return;
+  const std::int32_t id = autoConnectPart(context.layout, part);
+  if (id == kNone) return;
   context.host.selectionChanged();
   context.host.markDirty();
   showPieceCount(context);
+  if (const std::optional<Vec2> end = farEnd(context.layout, id)) bringIntoView(context, *end);
   context.host.repaint();
 }
 

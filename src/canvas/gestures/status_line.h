@@ -18,4 +18,9 @@ void showPieceCount(CanvasContext& context);
 // nothing. Restores "Ready" after the last run has ended, but touches no other text.
 void showGradeRuns(const CanvasContext& context, wxDC& dc);
 
+// How to go on with an armed tool or with what hangs at the pointer, where there is no grade to
+// tell; and when that ends, the text from before, unless another has come since. Part of each paint
+// for the same reason, and behind showGradeRuns. The baseboard's tool has a text of its own.
+void showPrompt(const CanvasContext& context, wxDC& dc);
+
 }  // namespace vantrel

@@ -6,12 +6,15 @@
 #include "catalog/connector_geometry.h"
 #include "catalog/helix_kits.h"
 #include "catalog/track_catalog.h"
+#include "render2d/rulers.h"
 
 namespace vantrel {
 namespace {
 
 constexpr int kFitMargin = 80;  // pixels on each side
 constexpr double kUnitScale = 1.0;
+// From an edge to a point that is seen: room for the dot at a track's end. Pixels.
+constexpr int kSeenMargin = 16;
 // Half the space that the bounding box looks at, in mm. What a broken file sets beyond it can't be
 // shown together with anything else and isn't taken in.
 constexpr double kWorldLimitMm = 1e9;
@@ -102,6 +105,14 @@ ViewTransform FittingView(const BoundingBox& box, DeviceSize client) {
   return view;
 }
 
+// By how many whole pixels what is at `at` has to move to lie between the two, the first before
+// all.
+double MoveBetween(double at, double first, double last) {
+  if (at < first) return std::ceil(first - at);
+  if (at > last) return std::max(-std::ceil(at - last), std::ceil(first - at));
+  return 0.0;
+}
+
 }  // namespace
 
 void zoomAt(CanvasContext& context, DevicePoint point, double factor) {
@@ -130,6 +141,22 @@ void zoomToFit(CanvasContext& context, bool trackOnly) {
     return;
   }
   context.state.view = FittingView(box, context.host.clientSize());
+  context.host.repaint();
+}
+
+void bringIntoView(CanvasContext& context, Vec2 world) {
+  ViewTransform& view = context.state.view;
+  const double x = view.scale * world.x + view.offsetX;
+  const double y = view.scale * world.y + view.offsetY;
+  // Where no view leads; not-a-number fails both comparisons.
+  if (!(std::abs(x) < kDeviceLimit) || !(std::abs(y) < kDeviceLimit)) return;
+  const DeviceSize client = context.host.clientSize();
+  const int first = kRulerWidth + kSeenMargin;
+  const double moveX = MoveBetween(x, first, client.width - kSeenMargin);
+  const double moveY = MoveBetween(y, first, client.height - kSeenMargin);
+  if (moveX == 0.0 && moveY == 0.0) return;
+  view.offsetX += moveX;
+  view.offsetY += moveY;
   context.host.repaint();
 }
 

@@ -25,6 +25,10 @@ void zoomCentred(CanvasContext& context, double factor);
 // the layout holds.
 void zoomToFit(CanvasContext& context, bool trackOnly);
 
+// Moves the view just so far, in whole pixels, that the point can be seen beside the rulers and a
+// little off the edges; not at all when it can be seen already. The scale stays.
+void bringIntoView(CanvasContext& context, Vec2 world);
+
 void resetView(CanvasContext& context);
 void resetViewUnitScale(CanvasContext& context);
 

@@ -54,4 +54,16 @@ CloneResult clonePiece(Layout& layout, std::int32_t id) {
   return {.outcome = CloneOutcome::cloned, .clone = cloneId};
 }
 
+std::optional<Vec2> farEnd(const Layout& layout, std::int32_t id) {
+  const Piece* const piece = FindPiece(layout, id);
+  const PieceDef* const def = piece != nullptr ? findPart(piece->cat) : nullptr;
+  if (def == nullptr) return std::nullopt;
+  for (const std::size_t end : {std::size_t{1}, std::size_t{0}})
+    if (end < def->connectors.size() && IsConnectorOpen(*piece, end)) {
+      const WorldConnector at = worldConnector(*piece, *def, end);
+      return Vec2{at.x, at.y};
+    }
+  return LocalToWorld(piece->pose(), {def->length, 0.0});
+}
+
 }  // namespace vantrel

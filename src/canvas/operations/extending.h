@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "doc/layout.h"
 
@@ -22,5 +23,10 @@ struct CloneResult {
 // step, and selects only the copy. An end that any piece has a joint to counts as taken, even when
 // the piece's own slot is open.
 CloneResult clonePiece(Layout& layout, std::int32_t id);
+
+// Where track would go on from a piece that was just joined by one of its ends: at the end that the
+// next double click takes, and where there is none at the far end of its centre line. Nothing for
+// an unknown piece or part.
+std::optional<Vec2> farEnd(const Layout& layout, std::int32_t id);
 
 }  // namespace vantrel
