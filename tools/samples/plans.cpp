@@ -67,7 +67,7 @@ Layout DoubleOval() {
   plan.scenery("car", {road - 12.0, origin.y + 300.0, 90.0});
   plan.scenery("truck", {road + 12.0, origin.y + 200.0, 270.0});
   plan.scenery("signal_box", {origin.x + 1010.0, nearSide + 90.0, 0.0});
-  for (const double x : {-430.0, 700.0, 880.0, 960.0})
+  for (const double x : {-430.0, 700.0, 860.0})
     plan.scenery("tree_group", {middle + x, nearSide + 350.0, 0.0});
   for (const double x : {-380.0, -300.0, 420.0, 500.0, 600.0})
     plan.scenery("tree_conifer", {middle + x, nearSide + 300.0 + x / 10.0, 0.0});
