@@ -17,11 +17,11 @@
 #include "dialogs/message_boxes.h"
 #include "doc/layout_ops.h"
 #include "doc/undo.h"
+#include "frame/character_keys.h"
 #include "frame/commands.h"
 #include "frame/experience_dialog.h"
 #include "frame/help_dialog.h"
 #include "frame/main_frame.h"
-#include "frame/zoom_keys.h"
 #include "view3d/view3d_frame.h"
 #include "workspace/status_text.h"
 
@@ -101,7 +101,7 @@ void MainFrame::onZoomToFit(wxCommandEvent&) {
 }
 
 void MainFrame::onCharHook(wxKeyEvent& event) {
-  const int command = ZoomCommandFor(event, FindFocus(), *canvas_);
+  const int command = CharacterCommandFor(event, FindFocus(), *canvas_);
   if (command == wxID_NONE || !ProcessCommand(command)) event.Skip();
 }
 

@@ -6,12 +6,15 @@
 #include <wx/textctrl.h>
 #include <wx/uiaction.h>
 
+#include <cmath>
 #include <functional>
 #include <set>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "palette/palette_panel.h"
+#include "palette/track_icon_grid.h"
 #include "properties/properties_panel.h"
 #include "tests/frame/frame_fixture.h"
 
@@ -107,6 +110,25 @@ TEST_F(ToolsMenu, ItsKeysReachTheCanvas) {
   EXPECT_TRUE(waitFor([&] { return plan().pieces[0].heading == 15.0; }));
   press('[', wxMOD_SHIFT);
   EXPECT_TRUE(waitFor([&] { return plan().pieces[0].heading == 14.0; }));
+}
+
+// As it is after each click on a part.
+TEST_F(ToolsMenu, ItsKeysTurnTheSelectionWhileTheIconGridHasTheFocus) {
+  addPiece().sel = true;
+  showFrame();
+  auto* grid = FindControl<TrackIconGrid>(frame().palette());
+  ASSERT_NE(grid, nullptr);
+  grid->SetFocus();
+  ASSERT_TRUE(waitFor([&] { return grid->HasFocus(); }));
+  EXPECT_TRUE(enabled(kCmdTurnRight));
+  press(']');
+  EXPECT_TRUE(waitFor([&] { return plan().pieces[0].heading == 15.0; }));
+  press(']', wxMOD_SHIFT);
+  EXPECT_TRUE(waitFor([&] { return plan().pieces[0].heading == 16.0; }));
+  press('[');
+  EXPECT_TRUE(waitFor([&] { return plan().pieces[0].heading == 1.0; }));
+  press('[', wxMOD_SHIFT);
+  EXPECT_TRUE(waitFor([&] { return std::abs(plan().pieces[0].heading) < 1e-9; }));
 }
 
 TEST_F(ToolsMenu, ItsKeysAreTypedIntoATextFieldThatHasTheFocus) {

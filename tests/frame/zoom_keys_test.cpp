@@ -1,5 +1,5 @@
 // '+' and '-' zoom whatever has the focus, but for the fields that take them as text.
-#include "frame/zoom_keys.h"
+#include "frame/character_keys.h"
 
 #include <gtest/gtest.h>
 #include <wx/choice.h>

@@ -1,4 +1,4 @@
-#include "frame/zoom_keys.h"
+#include "frame/character_keys.h"
 
 #include <wx/event.h>
 #include <wx/spinctrl.h>
@@ -6,6 +6,7 @@
 #include <wx/toplevel.h>
 
 #include "frame/commands.h"
+#include "frame/tools_menu.h"
 
 namespace vantrel {
 namespace {
@@ -41,7 +42,7 @@ bool OfAnotherWindow(const wxKeyEvent& event, const wxWindow& canvas) {
 
 }  // namespace
 
-int ZoomCommandFor(const wxKeyEvent& event, const wxWindow* focus, const wxWindow& canvas) {
+int CharacterCommandFor(const wxKeyEvent& event, const wxWindow* focus, const wxWindow& canvas) {
   if (event.ControlDown() || event.AltDown() || event.MetaDown()) return wxID_NONE;
   if (focus == &canvas || TakesCharacters(focus) || OfAnotherWindow(event, canvas))
     return wxID_NONE;
@@ -50,6 +51,14 @@ int ZoomCommandFor(const wxKeyEvent& event, const wxWindow* focus, const wxWindo
       return kCmdZoomIn;
     case '-':
       return kCmdZoomOut;
+    case '[':
+      return kCmdTurnLeft;
+    case ']':
+      return kCmdTurnRight;
+    case '{':
+      return kCmdTurnLeftFine;
+    case '}':
+      return kCmdTurnRightFine;
     default:
       return wxID_NONE;
   }
