@@ -14,6 +14,7 @@
 #include "print/layout_preview.h"
 #include "print/layout_printout.h"
 #include "print/pages/pagination.h"
+#include "print/preview_frame.h"
 
 namespace vantrel {
 namespace {
@@ -112,13 +113,10 @@ void MainFrame::onPrintPreview(wxCommandEvent&) {
                 "Could not create print preview. Is a printer driver installed?");
     return;
   }
-  auto* window =
-      new wxPreviewFrame(preview, this, kPreviewFrameTitle, wxDefaultPosition, kPreviewSize);
+  auto* window = new PreviewFrame(preview, this, kPreviewFrameTitle, kPreviewSize);
   preview_ = window;
-  window->Centre(wxBOTH);
-  window->Initialize();
   window->SetIcons(ProgramIcons());
-  window->Show();
+  window->open();
 }
 
 }  // namespace vantrel

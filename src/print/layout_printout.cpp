@@ -146,13 +146,27 @@ ViewTransform LayoutPrintout::viewOn(wxDC& dc, int page) const {
 }
 
 void LayoutPrintout::draw(wxDC& dc, int page) {
-  const PageArea area = drawnArea(pages_, lastPage(), page);
-  const wxDCClipper clipper(dc, area.left, area.top, area.width, area.height);
   const PageArea whole = wholeArea(pages_, lastPage(), page);
   RenderContext context;
   context.platesWithin = {whole.left, whole.top, whole.left + whole.width,
                           whole.top + whole.height};
   DrawLayoutContents(context, dc, *layout_, viewOn(dc, page), lastPage());
+  coverBeyondSeams(dc, page);
+}
+
+// The page is drawn beyond its seams, and what is too much goes under white. A clip at the seam
+// would end each layer by itself; where it cuts through the dots of a viewer, what is below would
+// then shine through as a hairline.
+void LayoutPrintout::coverBeyondSeams(wxDC& dc, int page) const {
+  const PageArea area = drawnArea(pages_, lastPage(), page);
+  const int right = area.left + area.width;
+  const int bottom = area.top + area.height;
+  dc.SetPen(*wxTRANSPARENT_PEN);
+  dc.SetBrush(*wxWHITE_BRUSH);
+  if (area.left > 0) dc.DrawRectangle(0, 0, area.left, lastPageH_);
+  if (area.top > 0) dc.DrawRectangle(0, 0, lastPageW_, area.top);
+  if (right < lastPageW_) dc.DrawRectangle(right, 0, lastPageW_ - right, lastPageH_);
+  if (bottom < lastPageH_) dc.DrawRectangle(0, bottom, lastPageW_, lastPageH_ - bottom);
 }
 
 wxBitmap LayoutPrintout::makePageBitmap(wxSize size) const {

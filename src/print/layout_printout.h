@@ -43,6 +43,7 @@ class LayoutPrintout : public wxPrintout {
   void render(wxDC& dc, int page);
   bool drawGreyBitmap(wxDC& dc, int page);
   void draw(wxDC& dc, int page);
+  void coverBeyondSeams(wxDC& dc, int page) const;
   ViewTransform viewOn(wxDC& dc, int page) const;
   int resolution() const;
 

@@ -170,3 +170,85 @@ test_print_options_are_cancelled_by_keys() {
   window_gone '^Print Options$' || return 1
   plan_is_untouched
 }
+
+# managing_window: the window by which the one in charge of the display is known.
+managing_window() { xprop -root -notype _NET_SUPPORTING_WM_CHECK 2>/dev/null | awk '{print $NF}'; }
+
+# manage_with WINDOW-MANAGER: takes the display over from the one that runs.
+manage_with() {
+  local before
+  before=$(managing_window)
+  case $1 in
+    openbox) openbox --replace --config-file "$here/../../scripts/openbox.xml" >/dev/null 2>&1 & ;;
+    *) HOME=$output dbus-run-session -- "$1" --replace --compositor=off >/dev/null 2>&1 & ;;
+  esac
+  local name
+  for _ in $(seq 100); do
+    name=$(managing_window)
+    [ "$name" != "$before" ] &&
+      xprop -id "$name" -notype _NET_WM_NAME 2>/dev/null | grep -qi "$1" && return 0
+    sleep 0.1
+  done
+  problem="$1 doesn't manage the display"
+  return 1
+}
+
+# middle WINDOW: the point in the middle of its contents.
+middle() {
+  local X Y WIDTH HEIGHT
+  eval "$(xdotool getwindowgeometry --shell "$1" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
+  echo $((X + WIDTH / 2)) $((Y + HEIGHT / 2))
+}
+
+# is_near "X Y" "X Y": within 20 pixels, which borders and title bars may differ by.
+is_near() {
+  awk -v a="$1" -v b="$2" 'BEGIN {
+    split(a, p); split(b, q)
+    dx = p[1] - q[1]; dy = p[2] - q[2]
+    exit !(dx * dx <= 400 && dy * dy <= 400) }'
+}
+
+# in_the_middle WINDOW: waits until it stands in the middle of the main window.
+in_the_middle() {
+  for _ in $(seq 50); do
+    is_near "$(middle "$1")" "$(middle "$main")" && return 0
+    sleep 0.1
+  done
+  problem="the window is around $(middle "$1"), not $(middle "$main")"
+  return 1
+}
+
+# has_keyboard WINDOW: waits until the keys go there.
+has_keyboard() {
+  for _ in $(seq 100); do
+    [ "$(xdotool getwindowfocus 2>/dev/null)" = "$1" ] && return 0
+    sleep 0.1
+  done
+  problem="the keyboard is in '$(xdotool getwindowfocus getwindowname)'"
+  return 1
+}
+
+# preview_by_keys_twice: opened and closed by keys alone, in the middle each time.
+preview_by_keys_twice() {
+  for _ in 1 2; do
+    xdotool windowactivate --sync "$main"
+    has_keyboard "$main" || return 1
+    open_preview || { problem="no preview opens"; return 1; }
+    has_keyboard "$preview" || return 1
+    in_the_middle "$preview" || return 1
+    xdotool key Escape
+    window_gone '^Print Preview -- Vantrel$' || return 1
+  done
+}
+
+test_preview_has_the_keyboard_and_the_middle_under_each_window_manager() {
+  local manager failed=
+  for manager in openbox xfwm4 metacity; do
+    command -v $manager >/dev/null || continue
+    [ $manager = openbox ] || { manage_with $manager && stop_program && start_program; } || break
+    preview_by_keys_twice || { failed="$manager: $problem"; break; }
+  done
+  [ $manager = openbox ] || manage_with openbox
+  problem=$failed
+  [ -z "$problem" ] && main_is_usable
+}

@@ -1,13 +1,17 @@
 // Print and Print Preview, with printers that do as the test wants.
 #include <gtest/gtest.h>
 
+#include <wx/button.h>
+#include <wx/choice.h>
 #include <wx/gtk/print.h>
 #include <wx/log.h>
 #include <wx/module.h>
 #include <wx/print.h>
 #include <wx/radiobox.h>
 #include <wx/spinctrl.h>
+#include <wx/textctrl.h>
 
+#include <cstdlib>
 #include <functional>
 #include <limits>
 #include <memory>
@@ -334,6 +338,58 @@ TEST_F(Printing, APreviewBearsTheProgramsIcon) {
   window->Close();
   wxTheApp->Yield();
   wxTheApp->ProcessIdle();
+}
+
+TEST_F(Printing, APreviewStandsInTheMiddleWithTheKeyboardEachTimeItOpens) {
+  showFrame();
+  for (int time = 1; time <= 3; ++time) {
+    SCOPED_TRACE(time);
+    command(5013);
+    auto* window = dynamic_cast<wxPreviewFrame*>(previewWindow());
+    ASSERT_NE(window, nullptr);
+    const wxRect around = frame().GetScreenRect();
+    const wxPoint middle(around.x + around.width / 2, around.y + around.height / 2);
+    const auto inTheMiddle = [&] {
+      const wxRect place = window->GetScreenRect();
+      return std::abs(place.x + place.width / 2 - middle.x) <= 2 &&
+             std::abs(place.y + place.height / 2 - middle.y) <= 2;
+    };
+    EXPECT_TRUE(waitUntil([&] { return window->IsActive() && inTheMiddle(); }));
+    EXPECT_TRUE(waitUntil([&] {
+      wxWindow* focused = wxWindow::FindFocus();
+      return focused != nullptr && wxGetTopLevelParent(focused) == window;
+    }));
+    window->Close();
+    EXPECT_TRUE(waitUntil([&] { return previewWindow() == nullptr && frame().IsEnabled(); }));
+  }
+}
+
+// A control of the preview's row of buttons.
+template <typename Control>
+Control* InPreview(wxPreviewFrame& window) {
+  for (wxWindow* child : window.GetControlBar()->GetChildren())
+    if (auto* control = dynamic_cast<Control*>(child)) return control;
+  return nullptr;
+}
+
+TEST_F(Printing, EscapeClosesAPreviewWhicheverControlHasTheFocus) {
+  showFrame();
+  const auto escapeFrom = [this](auto choose) {
+    openPaintedPreview();
+    auto* window = dynamic_cast<wxPreviewFrame*>(previewWindow());
+    ASSERT_NE(window, nullptr);
+    wxWindow* control = choose(*window);
+    ASSERT_NE(control, nullptr);
+    wxKeyEvent escape(wxEVT_CHAR_HOOK);
+    escape.m_keyCode = WXK_ESCAPE;
+    escape.SetEventObject(control);
+    control->HandleWindowEvent(escape);
+    EXPECT_TRUE(waitUntil([&] { return previewWindow() == nullptr && frame().IsEnabled(); }));
+  };
+  escapeFrom([](wxPreviewFrame& window) -> wxWindow* { return &window; });
+  escapeFrom([](wxPreviewFrame& window) { return InPreview<wxChoice>(window); });
+  escapeFrom([](wxPreviewFrame& window) { return InPreview<wxTextCtrl>(window); });
+  escapeFrom([](wxPreviewFrame& window) { return InPreview<wxButton>(window); });
 }
 
 TEST_F(Printing, FromAPreviewTakesThePrintersDataOnSuccess) {

@@ -337,18 +337,36 @@ TEST_F(PrintedLayout, HasPartNumbersFromAFifthOfADotForAMillimetreOn) {
   }
 }
 
-TEST_F(PrintedLayout, DrawsNothingBeyondASeam) {
+TEST_F(PrintedLayout, ShowsNothingBeyondASeam) {
   atOneToFive();
   printout().OnPreparePrinting();
-  const auto clipOf = [this](int page) {
+  // What goes over all else: white rectangles without an edge.
+  const auto coversOf = [this](int page) {
     dc_.forget();
     printout().OnPrintPage(page);
-    const std::vector<DrawCall> clips = dc_.callsOf(DrawOp::clip);
-    return clips.empty() ? wxRect() : clips[0].box;
+    std::vector<wxRect> covers;
+    const std::vector<DrawCall> calls = dc_.calls();
+    for (std::size_t i = calls.size(); i-- > 0 && calls[i].op == DrawOp::rectangle;) {
+      EXPECT_EQ(calls[i].brush.colour, (Rgba{255, 255, 255, 255}));
+      EXPECT_EQ(calls[i].brush.style, wxBRUSHSTYLE_SOLID);
+      EXPECT_EQ(calls[i].pen.style, wxPENSTYLE_TRANSPARENT);
+      covers.insert(covers.begin(), calls[i].box);
+    }
+    return covers;
   };
-  // Margins of 132 and 102 dots.
-  EXPECT_EQ(clipOf(1), wxRect(0, 0, 3168, 2448));
-  EXPECT_EQ(clipOf(4), wxRect(132, 102, 3168, 2448));
+  // Margins of 132 and 102 dots on 3,300 by 2,550.
+  EXPECT_EQ(coversOf(1),
+            (std::vector<wxRect>{{3168, 0, 132, kLetterHeight}, {0, 2448, kLetterWidth, 102}}));
+  EXPECT_EQ(coversOf(4),
+            (std::vector<wxRect>{{0, 0, 132, kLetterHeight}, {0, 0, kLetterWidth, 102}}));
+  // And no clip, which a viewer would show as a hairline.
+  EXPECT_TRUE(dc_.callsOf(DrawOp::clip).empty());
+}
+
+TEST_F(PrintedLayout, OnASinglePageNothingIsCovered) {
+  printout().OnPreparePrinting();
+  printout().OnPrintPage(1);
+  EXPECT_EQ(dc_.count(DrawOp::rectangle), 0U);
 }
 
 TEST_F(PrintedLayout, IsShrunkToTheDeviceOfAPreview) {

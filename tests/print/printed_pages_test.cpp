@@ -3,6 +3,7 @@
 #include <wx/bitmap.h>
 #include <wx/dcmemory.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -95,6 +96,35 @@ TEST_F(PrintedPages, AMetreAcrossTheSeamOfTwoSheetsIsTenCentimetresTogether) {
   // own, 4 percent from the left edge: 8.4 mm.
   EXPECT_NEAR((pages[0].GetWidth() - 1 - left.last) * kMmPerDot, 8.4, 0.15);
   EXPECT_NEAR(right.first * kMmPerDot, 8.4, 0.15);
+}
+
+// Dark ground under light ground, both across the seam: where an edge cuts through the dots of a
+// viewer, each layer that ends there by itself lets what is below shine through.
+TEST_F(PrintedPages, ASeamShowsNoHairlineOfWhatIsBelowAtLowZoom) {
+  lay(2500, 100, 2400);
+  plan_.shapes.push_back(plan_.shapes[0]);
+  Shape& above = plan_.shapes.back();
+  above.id = 6;
+  above.r = 250;
+  above.g = 240;
+  above.b = 210;
+  plan_.shapes[0].r = 0;
+  for (const int dpi : {72, 110}) {
+    const std::vector<wxImage> pages = print({}, dpi);
+    ASSERT_EQ(pages.size(), 2U);
+    // Along a row clear of texts, from well within the shape across the seam into the margin, red
+    // goes from the light ground's 250 up to white, and nowhere below the ground.
+    const int y = pages[0].GetHeight() / 10;
+    const int seam = pages[0].GetWidth() * 96 / 100;
+    int least = 255;
+    for (int x = seam - 4; x <= seam + 4; ++x) least = std::min<int>(least, pages[0].GetRed(x, y));
+    EXPECT_GE(least, 248) << dpi;
+    least = 255;
+    const int begin = pages[1].GetWidth() * 4 / 100;
+    for (int x = begin - 4; x <= begin + 4; ++x)
+      least = std::min<int>(least, pages[1].GetRed(x, y));
+    EXPECT_GE(least, 248) << dpi;
+  }
 }
 
 // Where the first and last dots darker than `most` lie, over the whole page.

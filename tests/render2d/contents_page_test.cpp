@@ -193,6 +193,7 @@ TEST(PlanOnAFinePage, HasAGridWhoseLinesStandSixToFourHundredDotsApart) {
   EXPECT_GT(lines(0.1875), 0u);
   EXPECT_GT(lines(12.5), 0u);
   EXPECT_EQ(lines(12.51), 0u);
+  ASSERT_GT(lines(1.0), 0u);
   // They themselves are a pixel wide.
   EXPECT_EQ(OfOp(OnFinePage(plan, 1.0), DrawOp::line).front().pen.width, kDots);
 }
