@@ -1,6 +1,12 @@
 #include "print/preview_frame.h"
 
 namespace vantrel {
+namespace {
+
+// A window manager that insists on a place of its own gets its way in the end.
+constexpr int kMostPlaces = 4;
+
+}  // namespace
 
 PreviewFrame::PreviewFrame(wxPrintPreviewBase* preview, wxWindow* parent, const wxString& title,
                            wxSize size)
@@ -12,7 +18,9 @@ PreviewFrame::PreviewFrame(wxPrintPreviewBase* preview, wxWindow* parent, const 
   // Where the window manager has put it is heard of only now; it may have had its own mind.
   Bind(wxEVT_MOVE, [this](wxMoveEvent& event) {
     event.Skip();
-    if (!settled_) CentreOnParent(wxBOTH);
+    if (settled_ || places_ >= kMostPlaces) return;
+    ++places_;
+    CentreOnParent(wxBOTH);
   });
   // From here on the user moves it.
   Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {

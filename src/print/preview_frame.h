@@ -19,6 +19,7 @@ class PreviewFrame : public wxPreviewFrame {
  private:
   void takePlace();
 
+  int places_ = 0;        // that the window manager has given it and that were not the middle
   bool settled_ = false;  // the window manager has placed it and given it the keyboard
 };
 

@@ -97,15 +97,15 @@ class Printing : public FrameTest {
   void openPaintedPreview() {
     command(5013);
     ASSERT_NE(previewWindow(), nullptr);
-    bool painted = false;
+    const auto painted = std::make_shared<bool>(false);
     for (wxWindow* child : previewWindow()->GetChildren()) {
       if (dynamic_cast<wxPreviewCanvas*>(child) == nullptr) continue;
-      child->Bind(wxEVT_PAINT, [&painted](wxPaintEvent& event) {
-        painted = true;
+      child->Bind(wxEVT_PAINT, [painted](wxPaintEvent& event) {
+        *painted = true;
         event.Skip();
       });
     }
-    EXPECT_TRUE(waitUntil([&painted] { return painted; }));
+    EXPECT_TRUE(waitUntil([painted] { return *painted; }));
     wxTheApp->Yield();
   }
   // Handles what is waiting until the condition holds; gives up in the end.
@@ -375,9 +375,10 @@ Control* InPreview(wxPreviewFrame& window) {
 TEST_F(Printing, EscapeClosesAPreviewWhicheverControlHasTheFocus) {
   showFrame();
   const auto escapeFrom = [this](auto choose) {
-    openPaintedPreview();
+    command(5013);
     auto* window = dynamic_cast<wxPreviewFrame*>(previewWindow());
     ASSERT_NE(window, nullptr);
+    EXPECT_TRUE(waitUntil([&] { return window->IsActive(); }));
     wxWindow* control = choose(*window);
     ASSERT_NE(control, nullptr);
     wxKeyEvent escape(wxEVT_CHAR_HOOK);
