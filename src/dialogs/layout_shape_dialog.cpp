@@ -70,6 +70,7 @@ LayoutShapeDialog::LayoutShapeDialog(wxWindow* parent, vantrel::Layout& layout)
       lastShape_(layout.lastShape),
       existing_(layout.baseboard),
       unit_(UnitOf(layout)),
+      start_(boardToStartFrom(existing_, lastShape_, unit_.mm)),
       typed_(*this) {
   build();
   makeRoomForAllPages();
@@ -91,8 +92,8 @@ void LayoutShapeDialog::build() {
                 kGap);
   shapeChoice_ = new wxChoice(this, wxID_ANY);
   for (const Page& page : kPages) shapeChoice_->Append(page.name);
-  const bool known = lastShape_.id >= 0 && lastShape_.id < kBaseboardShapes;
-  shapeChoice_->SetSelection(known ? lastShape_.id : kRectangleBoard);
+  const bool known = start_.id >= 0 && start_.id < kBaseboardShapes;
+  shapeChoice_->SetSelection(known ? start_.id : kRectangleBoard);
   shapeRow->Add(shapeChoice_, 1, wxALIGN_CENTRE_VERTICAL);
   add(shapeRow);
   add(new wxStaticLine(this));
@@ -137,7 +138,8 @@ void LayoutShapeDialog::buildPage(std::int32_t shape) {
 }
 
 void LayoutShapeDialog::buildSpins(std::int32_t shape) {
-  const BoardWholeNumbers numbers = boardStartNumbers(shape, lastShape_, unit_.mm);
+  const LastShape& from = shape == start_.id ? start_ : lastShape_;
+  const BoardWholeNumbers numbers = boardStartNumbers(shape, from, unit_.mm);
   const Page& page = kPages[static_cast<std::size_t>(shape)];
   for (std::size_t i = 0; i < boardDimensionCount(shape); ++i)
     addSpinRow(i, page.captions[i], numbers[i]);

@@ -47,6 +47,7 @@ class LayoutShapeDialog : public wxDialog {
   LastShape& lastShape_;
   const std::vector<Vec2> existing_;
   const ShownUnit unit_;
+  const LastShape start_;  // the last shape, or the table that is there instead
   TypedSpins typed_;
   wxChoice* shapeChoice_ = nullptr;
   wxPanel* page_ = nullptr;

@@ -22,6 +22,7 @@
 #include "frame/experience_dialog.h"
 #include "frame/help_dialog.h"
 #include "frame/main_frame.h"
+#include "frame/shared_shortcuts.h"
 #include "view3d/view3d_frame.h"
 #include "workspace/status_text.h"
 
@@ -177,6 +178,7 @@ void MainFrame::on3DView(wxCommandEvent&) {
   }
   view3D_ = new View3DFrame(this, layout_);
   view3D_->SetIcons(ProgramIcons());
+  ShareMenuShortcuts(*this, *view3D_);
   view3D_->Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
     view3D_ = nullptr;
     event.Skip();

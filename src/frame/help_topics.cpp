@@ -221,7 +221,8 @@ The 3D View button opens a window that shows your plan as a model, with grades, 
 tunnels and scenery. It follows every change you make, so leave it open beside the plan.
 
 Drag with the left button to turn the model, with the right button to move it. The mouse wheel
-zooms. R brings the first view back and keeps the zoom. Levels that are hidden don't show.
+zooms. R brings the first view back and keeps the zoom. Levels that are hidden don't show. The keys of
+the menus work in this window too: Ctrl+S saves, Ctrl+Z takes a step back.
 )text";
 
 constexpr std::string_view kLayoutShape = R"text(

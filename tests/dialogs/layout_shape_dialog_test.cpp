@@ -227,6 +227,33 @@ TEST_F(LayoutShape, ComingBackToTheLastShapeBringsBackWhatWasStored) {
   EXPECT_EQ(SpinValues(dialog), (std::vector<int>{2000, 1600, 900, 700}));
 }
 
+TEST_F(LayoutShape, StartsFromTheTableThatTheLastShapeDoesntGive) {
+  const LastShape last = plan_.lastShape;
+  plan_.units = kCentimetres;
+  plan_.baseboard = {{0, 0}, {3000, 0}, {3000, 1200}, {2000, 1200}, {2000, 2000}, {0, 2000}};
+  {
+    LayoutShapeDialog dialog(parent_, plan_);
+    EXPECT_EQ(FindControl<wxChoice>(dialog)->GetSelection(), 1);
+    EXPECT_EQ(SpinValues(dialog), (std::vector<int>{300, 200, 100, 80}));
+    // Another shape starts as ever, and the first comes back with the table's values.
+    Choose(dialog, 0);
+    EXPECT_EQ(SpinValues(dialog), (std::vector<int>{240, 120}));
+    Choose(dialog, 1);
+    EXPECT_EQ(SpinValues(dialog), (std::vector<int>{300, 200, 100, 80}));
+  }
+  plan_.baseboard = {{0, 0}, {3000, 0}, {0, 2000}};
+  LayoutShapeDialog dialog(parent_, plan_);
+  EXPECT_EQ(FindControl<wxChoice>(dialog)->GetSelection(), 4);
+  EXPECT_EQ(FindControl<wxTextCtrl>(dialog)->GetValue(), "0.00,0.00\n300.00,0.00\n0.00,200.00\n");
+  EXPECT_EQ(plan_.lastShape, last) << "nothing is written before Apply";
+}
+
+TEST_F(LayoutShape, ApplyRightAwayKeepsTheTable) {
+  plan_.baseboard = {{0, 0}, {1800, 0}, {1800, 900}, {0, 900}};
+  EXPECT_EQ(run([](wxDialog& dialog) { Press(dialog, "Apply"); }), wxID_OK);
+  EXPECT_EQ(vertices_, plan_.baseboard);
+}
+
 TEST_F(LayoutShape, FreeFormDrawsOnTheCanvas) {
   const int answer = run([](wxDialog& dialog) {
     Choose(dialog, 5);

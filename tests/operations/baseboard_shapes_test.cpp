@@ -348,5 +348,77 @@ TEST(BaseboardText, OfAnyOutlineThatAFileCouldHoldIsBuiltAndReadWithoutHarm) {
             (std::vector<Vec2>{{1e300, -1e300}}));
 }
 
+TEST(BoardToStartFrom, IsTheLastChoiceWhenTheTableIsOfIt) {
+  const LastShape last{kLShapeBoard, 3000.0, 2000.0, 1000.0, 800.0};
+  EXPECT_EQ(
+      boardToStartFrom({{0, 0}, {3000, 0}, {3000, 1200}, {2000, 1200}, {2000, 2000}, {0, 2000}},
+                       last, kMm),
+      last);
+  // Made in millimetres, looked at in inches.
+  const LastShape rectangle{kRectangleBoard, 1500.0, 800.0, 7.0, 8.0};
+  EXPECT_EQ(boardToStartFrom({{0, 0}, {1500, 0}, {1500, 800}, {0, 800}}, rectangle, kIn),
+            rectangle);
+  for (const std::int32_t any : {kCustomBoard, kFreeFormBoard}) {
+    const LastShape own{any, 1.0, 2.0, 3.0, 4.0};
+    EXPECT_EQ(boardToStartFrom({{0, 0}, {1500, 0}, {1500, 800}, {0, 800}}, own, kMm), own);
+  }
+}
+
+TEST(BoardToStartFrom, IsTheLastChoiceWhenThereIsNoTable) {
+  const LastShape last{kTShapeBoard, 3000.0, 2000.0, 1000.0, 800.0};
+  EXPECT_EQ(boardToStartFrom({}, last, kMm), last);
+  EXPECT_EQ(boardToStartFrom({{0, 0}, {5, 5}}, last, kMm), last);
+}
+
+TEST(BoardToStartFrom, RecognisesEachFixedShapeThatTheLastChoiceDoesntGive) {
+  const LastShape first{kRectangleBoard, 2400.0, 1200.0, 7.0, 8.0};
+  EXPECT_EQ(boardToStartFrom({{0, 0}, {1800, 0}, {1800, 900}, {0, 900}}, first, kCm),
+            (LastShape{kRectangleBoard, 1800.0, 900.0, 7.0, 8.0}));
+  // 3000 by 2000 without 1000 by 800 in the corner.
+  EXPECT_EQ(
+      boardToStartFrom({{0, 0}, {3000, 0}, {3000, 1200}, {2000, 1200}, {2000, 2000}, {0, 2000}},
+                       first, kMm),
+      (LastShape{kLShapeBoard, 3000.0, 2000.0, 1000.0, 800.0}));
+  // 3000 by 2000 with a notch of 1600 by 900 from x 700 to x 2300.
+  EXPECT_EQ(boardToStartFrom({{0, 0},
+                              {3000, 0},
+                              {3000, 2000},
+                              {2300, 2000},
+                              {2300, 1100},
+                              {700, 1100},
+                              {700, 2000},
+                              {0, 2000}},
+                             first, kMm),
+            (LastShape{kUShapeBoard, 3000.0, 2000.0, 1600.0, 900.0}));
+  // A bar of 3000 by 700 on a stem of 1600 by 900.
+  EXPECT_EQ(boardToStartFrom({{0, 0},
+                              {3000, 0},
+                              {3000, 700},
+                              {2300, 700},
+                              {2300, 1600},
+                              {700, 1600},
+                              {700, 700},
+                              {0, 700}},
+                             first, kMm),
+            (LastShape{kTShapeBoard, 3000.0, 700.0, 1600.0, 900.0}));
+}
+
+TEST(BoardToStartFrom, IsTheListOfVerticesForAnyOtherTable) {
+  const LastShape last{kRectangleBoard, 2400.0, 1200.0, 7.0, 8.0};
+  LastShape vertices = last;
+  vertices.id = kCustomBoard;
+  // A rectangle beside the corner, one whose sides are no whole centimetres, and a triangle.
+  EXPECT_EQ(boardToStartFrom({{10, 0}, {1810, 0}, {1810, 900}, {10, 900}}, last, kMm), vertices);
+  EXPECT_EQ(boardToStartFrom({{0, 0}, {1805, 0}, {1805, 900}, {0, 900}}, last, kCm), vertices);
+  EXPECT_EQ(boardToStartFrom({{0, 0}, {1800, 0}, {0, 900}}, last, kMm), vertices);
+  // The table was cleared last, and another has come since.
+  EXPECT_EQ(
+      boardToStartFrom({{0, 0}, {1800, 0}, {0, 900}}, {kNoBoard, 2400.0, 1200.0, 7.0, 8.0}, kMm),
+      vertices);
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_EQ(boardToStartFrom({{nan, nan}, {nan, nan}, {nan, nan}, {nan, nan}}, last, kMm),
+            vertices);
+}
+
 }  // namespace
 }  // namespace vantrel

@@ -24,6 +24,7 @@ BoardDimensions LastDimensions(const LastShape& last) {
 }
 
 std::int32_t WholeNumber(double value) {
+  if (std::isnan(value)) return kSmallestDimension;
   return static_cast<std::int32_t>(
       std::clamp(std::round(value), double{kSmallestDimension}, double{kLargestDimension}));
 }
@@ -89,11 +90,65 @@ std::optional<double> TypedMm(std::string_view text, double mmPerUnit) {
   return *value * mmPerUnit;
 }
 
+// As well as a file keeps a vertex.
+bool IsSameOutline(const std::vector<Vec2>& a, const std::vector<Vec2>& b) {
+  constexpr double kSameMm = 0.01;
+  return std::ranges::equal(a, b, [](Vec2 p, Vec2 q) {
+    return std::abs(p.x - q.x) <= kSameMm && std::abs(p.y - q.y) <= kSameMm;
+  });
+}
+
+// With which this shape might have given the table, from the places where its vertices then lie.
+// The table must have as many.
+BoardDimensions DimensionsOf(std::int32_t shape, const std::vector<Vec2>& table) {
+  switch (shape) {
+    case kRectangleBoard:
+      return {table[2].x, table[2].y, 0.0, 0.0};
+    case kLShapeBoard:
+      return {table[1].x, table[5].y, table[2].x - table[3].x, table[4].y - table[3].y};
+    case kUShapeBoard:
+      return {table[1].x, table[2].y, table[3].x - table[6].x, table[3].y - table[4].y};
+    default:
+      return {table[1].x, table[2].y, table[3].x - table[6].x, table[4].y - table[3].y};
+  }
+}
+
+std::size_t VertexCount(std::int32_t shape) {
+  constexpr std::size_t kCounts[] = {4, 6, 8, 8};
+  return kCounts[shape];
+}
+
+constexpr std::size_t kLeastTable = 3;  // vertices; fewer are no table to be seen
+
+bool FitsTable(const std::vector<Vec2>& table, const LastShape& last) {
+  if (boardDimensionCount(last.id) == 0)
+    return last.id == kCustomBoard || last.id == kFreeFormBoard;
+  return IsSameOutline(table, boardVertices(last.id, LastDimensions(last)));
+}
+
 }  // namespace
 
 std::size_t boardDimensionCount(std::int32_t shape) {
   if (shape == kRectangleBoard) return 2;
   return shape > kRectangleBoard && shape <= kTShapeBoard ? 4 : 0;
+}
+
+LastShape boardToStartFrom(const std::vector<Vec2>& table, const LastShape& last,
+                           double mmPerUnit) {
+  if (table.size() < kLeastTable || FitsTable(table, last)) return last;
+  LastShape start = last;
+  for (std::int32_t shape = kRectangleBoard; shape <= kTShapeBoard; ++shape) {
+    if (table.size() != VertexCount(shape)) continue;
+    BoardWholeNumbers numbers{};
+    std::ranges::transform(DimensionsOf(shape, table), numbers.begin(),
+                           [=](double mm) { return WholeNumber(mm / mmPerUnit); });
+    const BoardDimensions dimensions = boardDimensions(numbers, mmPerUnit);
+    if (!IsSameOutline(table, boardVertices(shape, dimensions))) continue;
+    rememberBoard(start, shape, dimensions);
+    return start;
+  }
+  start.id = kCustomBoard;
+  return start;
 }
 
 BoardWholeNumbers boardStartNumbers(std::int32_t shape, const LastShape& last, double mmPerUnit) {

@@ -38,6 +38,10 @@ using BoardWholeNumbers = std::array<std::int32_t, 4>;  // of the unit
 // 2 for a rectangle, 4 for the other fixed shapes, 0 for anything else.
 std::size_t boardDimensionCount(std::int32_t shape);
 
+// The choice to start from: the last one, unless the plan has a table that isn't of it. Then it is
+// the fixed shape which gives the table with whole numbers of the unit, or else its vertices.
+LastShape boardToStartFrom(const std::vector<Vec2>& table, const LastShape& last, double mmPerUnit);
+
 // What a fixed shape starts with: what was chosen last when it is the last choice, else its
 // defaults; in whole units, within the bounds. All 1 for anything but a fixed shape.
 BoardWholeNumbers boardStartNumbers(std::int32_t shape, const LastShape& last, double mmPerUnit);
