@@ -4,6 +4,8 @@
 # under the prefix; integrate.sh, which run.sh calls, makes the user's desktop know it.
 if(TARGET vantrel)
   set(desktop_folder ${CMAKE_SOURCE_DIR}/desktop)
+  # Users have no need of symbols, which are a good part of the file; the build folder keeps them.
+  install(CODE "set(CMAKE_INSTALL_DO_STRIP TRUE)")
   install(TARGETS vantrel RUNTIME DESTINATION .)
   install(PROGRAMS ${desktop_folder}/uninstall.sh DESTINATION .)
   install(PROGRAMS ${desktop_folder}/integrate.sh DESTINATION share/vantrel)

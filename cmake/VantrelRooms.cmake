@@ -16,6 +16,12 @@ if(VANTREL_HARDEN)
   target_compile_options(vantrel_flags INTERFACE -fstack-protector-strong -fstack-clash-protection
     -D_GLIBCXX_ASSERTIONS
     $<$<NOT:$<BOOL:$<TARGET_PROPERTY:VANTREL_IS_TEST>>>:-U_FORTIFY_SOURCE$<SEMICOLON>-D_FORTIFY_SOURCE=2>)
+  # Only some processors have it, and the compiler refuses it for the others.
+  include(CheckCXXCompilerFlag)
+  check_cxx_compiler_flag(-fcf-protection VANTREL_HAS_CF_PROTECTION)
+  if(VANTREL_HAS_CF_PROTECTION)
+    target_compile_options(vantrel_flags INTERFACE -fcf-protection)
+  endif()
   target_link_options(vantrel_flags INTERFACE -Wl,-z,relro -Wl,-z,now)
   # Libraries are compiled position independent; the executables are linked as PIE.
   target_link_options(vantrel_flags INTERFACE $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>)

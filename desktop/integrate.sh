@@ -36,6 +36,42 @@ refresh() {
   fi
 }
 
+# The program may be installed in several folders, while the desktop knows one of each name: the last
+# that was told counts. The data folder keeps the list of all, in that order, so that the one before
+# takes over when the last one goes.
+known=vantrel/integrated-from
+
+# others FOLDER: the share folders, without this one, whose program still is in that data folder.
+others() {
+  local folder told
+  [ -f "$1/$known" ] || return 0
+  while IFS= read -r folder; do
+    [ "$folder" != "$share" ] && [ -f "$folder/vantrel/integrated" ] || continue
+    IFS= read -r told <"$folder/vantrel/integrated"
+    [ "$told" = "$1" ] && printf '%s\n' "$folder"
+  done <"$1/$known"
+  return 0
+}
+
+# remember FOLDER LIST: keeps the list of share folders there, or no list of none.
+remember() {
+  if [ -z "$2" ]; then
+    take_out "$1" "$known"
+    return
+  fi
+  mkdir -p "$1/$(dirname "$known")"
+  printf '%s\n' "$2" >"$1/$known"
+}
+
+# tell FROM FILES: copies the files of a share folder into the data folder.
+tell() {
+  local file
+  while IFS= read -r file; do
+    mkdir -p "$data/$(dirname "$file")"
+    cp -f -- "$1/$file" "$data/$file"
+  done <<<"$2"
+}
+
 # What an earlier run put there, here or into another data folder.
 if [ -f "$record" ]; then
   {
@@ -43,6 +79,12 @@ if [ -f "$record" ]; then
     while IFS= read -r file; do take_out "$earlier" "$file"; done
   } <"$record"
   rm -f -- "$record"
+  left=$(others "$earlier")
+  remember "$earlier" "$left"
+  if [ -n "$left" ]; then
+    last=$(tail -n 1 <<<"$left")
+    (data=$earlier; tell "$last" "$(tail -n +2 "$last/vantrel/integrated")")
+  fi
   # Also when the last file of its kind has gone, the desktop has to forget it.
   [ -d "$earlier/mime" ] && mkdir -p "$earlier/mime/packages"
   refresh "$earlier"
@@ -52,9 +94,14 @@ fi
 cd "$share"
 files=$(find applications/vantrel.desktop icons mime/packages metainfo -type f \
   \( -name 'vantrel.*' -o -name '*vantrel-layout.*' -o -name '*.vantrel.metainfo.xml' \) | sort)
+left=$(others "$data")
 printf '%s\n' "$data" "$files" >"$record"
-while IFS= read -r file; do
-  mkdir -p "$data/$(dirname "$file")"
-  cp -f -- "$file" "$data/$file"
-done <<<"$files"
+remember "$data" "${left:+$left$'\n'}$share"
+tell "$share" "$files"
 refresh "$data"
+
+# What such a path means in an entry, desktops don't agree on: they pass the entry over.
+if [[ $share == *%* ]]; then
+  echo "The path ${share%/share} has a \"%\" in it: the desktop takes no menu entry from there." >&2
+  echo "Install into a folder without one to have Vantrel in the menu." >&2
+fi

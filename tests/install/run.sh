@@ -179,6 +179,71 @@ test_a_path_with_blanks_and_signs_is_installed_and_uninstalled() {
   uninstall && gone "$folder" && same "left" "" "$(find "$XDG_DATA_HOME" -name '*vantrel*')"
 }
 
+# entry_of: the folder whose program the menu starts.
+entry_of() { sed -n 's,^Exec="\(.*\)/vantrel"$,\1,p' "$XDG_DATA_HOME/applications/vantrel.desktop"; }
+
+# two_prefixes: the program in the folders $one and $other, the desktop told of both, $other last.
+two_prefixes() {
+  one=$HOME/one other=$HOME/other
+  install_it "$one" && install_it "$other" && "$one/share/vantrel/integrate.sh" &&
+    "$other/share/vantrel/integrate.sh"
+}
+
+test_two_prefixes_dont_uninstall_each_others_menu_entry() {
+  two_prefixes && same "started" "$other" "$(entry_of)" || return 1
+  "$one/uninstall.sh" >/dev/null || return 1
+  same "started after the first is gone" "$other" "$(entry_of)" &&
+    there "$XDG_DATA_HOME/icons/hicolor/48x48/apps/vantrel.png" &&
+    there "$XDG_DATA_HOME/mime/packages/vantrel.xml" || return 1
+  "$other/uninstall.sh" >/dev/null || return 1
+  same "left" "" "$(find "$XDG_DATA_HOME" -name '*vantrel*')"
+}
+
+test_the_prefix_before_takes_over_when_the_last_one_goes() {
+  two_prefixes && "$other/uninstall.sh" >/dev/null || return 1
+  same "started" "$one" "$(entry_of)" &&
+    there "$XDG_DATA_HOME/icons/hicolor/scalable/apps/vantrel.svg" || return 1
+  # Told twice, it still is one.
+  "$one/share/vantrel/integrate.sh" && "$one/uninstall.sh" >/dev/null || return 1
+  same "left" "" "$(find "$XDG_DATA_HOME" -name '*vantrel*')"
+}
+
+test_a_prefix_that_was_deleted_by_hand_takes_nothing_over() {
+  two_prefixes && rm -r "$one" && "$other/uninstall.sh" >/dev/null || return 1
+  same "left" "" "$(find "$XDG_DATA_HOME" -name '*vantrel*')"
+}
+
+test_a_path_with_a_percent_sign_says_that_the_desktop_takes_no_entry() {
+  folder="$HOME/100% fun"
+  install_it || return 1
+  integrate 2>"$scratch/said" || { fail "it failed"; return 1; }
+  grep -q 'has a "%" in it: the desktop takes no menu entry from there' "$scratch/said" ||
+    { fail "it said: $(cat "$scratch/said")"; return 1; }
+  folder=$HOME/fun
+  install_it && integrate 2>"$scratch/said" && same "said elsewhere" "" "$(cat "$scratch/said")"
+}
+
+test_the_program_is_installed_without_its_symbols() {
+  have readelf || return 0
+  install_it || return 1
+  same "symbol tables" "" "$(readelf -SW "$folder/vantrel" | grep -oE '\.(symtab|strtab|debug_[a-z]+)')"
+}
+
+test_a_release_is_hardened() {
+  grep -q '^VANTREL_HARDEN:BOOL=ON' "$build/CMakeCache.txt" || return 0
+  have readelf || return 0
+  install_it || return 1
+  local program=$folder/vantrel
+  readelf -hW "$program" | grep -q 'Type: *DYN' || { fail "not position independent"; return 1; }
+  readelf -dW "$program" | grep -q 'NOW' || { fail "bound as it goes"; return 1; }
+  readelf -lW "$program" | grep -q GNU_RELRO || { fail "no read-only relocations"; return 1; }
+  [ "$(uname -m)" = x86_64 ] || return 0
+  # The mark at the top of each function that may be jumped to. The file's own notes don't tell: what
+  # the system adds at linking lacks them.
+  [ "$(LC_ALL=C grep -aoP '\xf3\x0f\x1e\xfa' "$program" | wc -l)" -gt 1000 ] ||
+    fail "no control-flow protection"
+}
+
 test_the_desktop_files_are_valid() {
   install_it || return 1
   local share=$folder/share
