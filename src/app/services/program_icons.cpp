@@ -11,12 +11,12 @@
 namespace vantrel {
 
 wxIconBundle ProgramIcons() {
-  if (!wxImage::FindHandler(wxBITMAP_TYPE_PNG)) wxImage::AddHandler(new wxPNGHandler);
+  wxPNGHandler png;  // not one of the program's list: the splash registers them all, once
   wxIconBundle icons;
   for (const EmbeddedPicture& embedded : EmbeddedIcons()) {
     wxMemoryInputStream stream(embedded.data.data(), embedded.data.size());
-    const wxImage image(stream, wxBITMAP_TYPE_PNG);
-    if (!image.IsOk()) continue;
+    wxImage image;
+    if (!png.LoadFile(&image, stream, false)) continue;
     wxIcon icon;
     icon.CopyFromBitmap(wxBitmap(image));
     icons.AddIcon(icon);
