@@ -2,10 +2,16 @@
 # gets to see of the program's windows.
 # shellcheck shell=bash
 
-complaints() { grep -aE '(Gtk|Gdk|GLib|GObject|Pango)-(CRITICAL|WARNING)' "$store/stderr"; }
+toolkit_complaints() { grep -aE '(Gtk|Gdk|GLib|GObject|Pango)-(CRITICAL|WARNING)' "$store/stderr"; }
 
-no_complaints() {
-  ! complaints >"$store/complaints" || { problem="after $1: $(head -n 2 "$store/complaints")"; return 1; }
+restart_as_it_is() {
+  kill "$pid" 2>/dev/null
+  wait "$pid" 2>/dev/null
+  start_program KEEP
+}
+
+no_toolkit_complaints() {
+  ! toolkit_complaints >"$store/complaints" || { problem="after $1: $(head -n 2 "$store/complaints")"; return 1; }
 }
 
 # seen_and_closed KEYS TITLE: the dialog of these keys comes up, and Escape takes it away.
@@ -15,11 +21,13 @@ seen_and_closed() {
   settle
   key Escape
   window_gone "^$2\$" || return 1
-  no_complaints "$2"
+  no_toolkit_complaints "$2"
 }
 
 test_no_window_makes_the_toolkit_complain() {
-  no_complaints "the start" || return 1
+  # Anew: the first start of a run may have come before the window manager, and it takes both.
+  restart_as_it_is || return 1
+  no_toolkit_complaints "the start" || return 1
   seen_and_closed ctrl+o 'Open Layout' || return 1
   seen_and_closed ctrl+shift+s 'Save Layout' || return 1
   seen_and_closed F1 'Vantrel v1.5 Help' || return 1
@@ -29,14 +37,12 @@ test_no_window_makes_the_toolkit_complain() {
   key alt+f v
   window '^Print Preview' >/dev/null || return 1
   settle
-  no_complaints "the preview" || return 1
+  no_toolkit_complaints "the preview" || return 1
 }
 
 test_escape_answers_the_first_question_as_the_title_bar_does() {
-  kill "$pid" 2>/dev/null
-  wait "$pid" 2>/dev/null
   printf 'playful=0\nasked=0\n' >"$store/prefs.cfg"
-  start_program KEEP || return 1
+  restart_as_it_is || return 1
   window '^Choose Your Experience$' >/dev/null || return 1
   xdotool windowactivate --sync "$(window '^Choose Your Experience$')"
   settle
