@@ -42,9 +42,13 @@ SceneryItem ReadBlockItem(AttributeLine& line) {
 }  // namespace
 
 std::string SaveBlockFile(const Layout& layout, const std::string& path, const std::string& name) {
+  return WriteBlockFile(layout, path, name).what;
+}
+
+FileProblem WriteBlockFile(const Layout& layout, const std::string& path, const std::string& name) {
   if (std::ranges::none_of(layout.pieces, &Piece::sel) &&
       std::ranges::none_of(layout.scenery, &SceneryItem::sel))
-    return "No pieces or scenery selected";
+    return {.what = "No pieces or scenery selected", .why = ""};
   std::string out = kXmlDeclaration;
   out += "<block";
   AppendAttribute(out, "name", name);

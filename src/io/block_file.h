@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "doc/layout.h"
+#include "io/file_problem.h"
 
 namespace vantrel {
 
@@ -14,6 +15,9 @@ namespace vantrel {
 // is at `path`. Paths and texts are UTF-8. Returns an empty text, "No pieces or scenery selected"
 // without touching the file, or "Cannot open file: " or "Cannot write file: " and the path.
 std::string SaveBlockFile(const Layout& layout, const std::string& path, const std::string& name);
+
+// The same, with the reason for a failure.
+FileProblem WriteBlockFile(const Layout& layout, const std::string& path, const std::string& name);
 
 // Reads a block; the two lists and `nameOut` are emptied first. What is read of a piece is narrow:
 // id, part, position, heading, level and joints, so it always comes back flat, uncoloured,

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "doc/layout.h"
+#include "io/file_problem.h"
 
 namespace vantrel {
 
@@ -26,7 +27,11 @@ class MalformedFile : public std::runtime_error {
 
 // Writes the layout under its display name (paths and texts are UTF-8). Returns an empty text, or
 // "Cannot open file: " or "Cannot write file: " and the path. The file is written where it stands.
+// A folder, a pipe or a device at `path` is refused.
 std::string SaveLayoutFile(const Layout& layout, const std::string& path, const std::string& name);
+
+// The same, with the reason for a failure.
+FileProblem WriteLayoutFile(const Layout& layout, const std::string& path, const std::string& name);
 
 // Reads a layout over the records of `layout`; `nameOut` gets the file's name attribute. Histories,
 // measurements, old grade runs and, without one in the file, the baseboard stay. A file without a

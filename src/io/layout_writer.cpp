@@ -202,6 +202,11 @@ std::string LayoutText(const Layout& layout, std::string_view name) {
 }
 
 std::string SaveLayoutFile(const Layout& layout, const std::string& path, const std::string& name) {
+  return WriteLayoutFile(layout, path, name).what;
+}
+
+FileProblem WriteLayoutFile(const Layout& layout, const std::string& path,
+                            const std::string& name) {
   return WriteTextFile(path, LayoutText(layout, name));
 }
 

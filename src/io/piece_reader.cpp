@@ -9,8 +9,9 @@
 namespace vantrel {
 namespace {
 
-// Far above the connectors of any piece: a slot number from a broken file must not claim gigabytes.
-constexpr std::int32_t kLastConnector = 4095;
+// Above the connectors of any piece: a slot number from a broken file must not claim memory that
+// every undo step copies.
+constexpr std::int32_t kLastConnector = 63;
 
 // The least that a piece takes in a file: its own two lines. Guessing the number of pieces too high
 // costs only address space, and spares moving them.

@@ -1,10 +1,12 @@
 #include "io/text_file.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 namespace vantrel {
 namespace {
@@ -16,6 +18,15 @@ using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
 
 std::string CannotOpen(const std::string& path) {
   return "Cannot open file: " + path;
+}
+
+std::string CannotWrite(const std::string& path) {
+  return "Cannot write file: " + path;
+}
+
+// A call that failed without a word is still a failure.
+std::error_code LastError() {
+  return {errno != 0 ? errno : EIO, std::generic_category()};
 }
 
 // Room for one byte more than the file, so that its end is found without growing.
@@ -54,14 +65,22 @@ std::string ReadTextFile(const std::string& path, FileBytes& bytes) {
   return {};
 }
 
-std::string WriteTextFile(const std::string& path, std::string_view text) {
+FileProblem WriteTextFile(const std::string& path, std::string_view text) {
+  if (std::string why = WhyNoPlainFile(path); !why.empty()) {
+    std::error_code error;
+    const bool folder = std::filesystem::is_directory(path, error);
+    return {folder ? CannotOpen(path) : CannotWrite(path), std::move(why)};
+  }
+  errno = 0;
   OpenFile file(std::fopen(path.c_str(), "w"));
-  if (!file) return CannotOpen(path);
+  if (!file) return {CannotOpen(path), WhyNotWritten(LastError())};
   std::setvbuf(file.get(), nullptr, _IONBF, 0);
-  const bool written = std::fwrite(text.data(), 1, text.size(), file.get()) == text.size();
+  std::error_code error;
+  if (std::fwrite(text.data(), 1, text.size(), file.get()) != text.size()) error = LastError();
   // A disk may take the bytes and refuse them only at the close.
-  const bool closed = std::fclose(file.release()) == 0;
-  return written && closed ? std::string() : "Cannot write file: " + path;
+  if (std::fclose(file.release()) != 0 && !error) error = LastError();
+  if (!error) return {};
+  return {CannotWrite(path), WhyNotWritten(error)};
 }
 
 bool LineCursor::next(std::string_view& line) {

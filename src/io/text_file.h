@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "io/file_problem.h"
+
 namespace vantrel {
 
 // The bytes of a file, as they are.
@@ -20,9 +22,9 @@ struct FileBytes {
 // a folder and for a file that breaks off while being read; `bytes` is then left as it was.
 std::string ReadTextFile(const std::string& path, FileBytes& bytes);
 
-// Overwrites a file where it stands, with the platform's line ends. Returns an empty text, "Cannot
-// open file: " or "Cannot write file: " and the path; the latter leaves a broken file behind.
-std::string WriteTextFile(const std::string& path, std::string_view text);
+// Overwrites a file where it stands, with the platform's line ends. A write that breaks off leaves
+// a broken file behind; what is no file, but a folder, a pipe or a device, is not touched.
+FileProblem WriteTextFile(const std::string& path, std::string_view text);
 
 // Walks over the lines of a text, which may end in "\n" or "\r\n": no tag or attribute sees the
 // carriage return, so it stays on.

@@ -93,14 +93,23 @@ TEST(BrokenFile, WithItsLinesMovedAboutItLoadsOrIsRefused) {
 
 TEST(BrokenFile, WithAnyValueReplacedItLoadsOrIsRefused) {
   const std::string file = RichFile();
-  const std::vector<std::string> values = {"1e308",        "-1e308",
-                                           "nan",          "inf",
-                                           "-inf",         "99999999999",
-                                           "-99999999999", "2147483647",
-                                           "-2147483648",  "",
-                                           "abc",          "1e-320",
-                                           "0x7fffffff",   "4095",
-                                           "-1",           std::string("1\0", 2)};
+  const std::vector<std::string> values = {"1e308",
+                                           "-1e308",
+                                           "nan",
+                                           "inf",
+                                           "-inf",
+                                           "99999999999",
+                                           "-99999999999",
+                                           "2147483647",
+                                           "-2147483648",
+                                           "",
+                                           "abc",
+                                           "1e-320",
+                                           "0x7fffffff",
+                                           "63",
+                                           "64",
+                                           "-1",
+                                           std::string("1\0", 2)};
   Verdicts verdicts;
   int attributes = 0;
   for (std::size_t at = file.find("=\""); at != std::string::npos; at = file.find("=\"", at + 2)) {

@@ -403,6 +403,34 @@ TEST(LayoutReader, TheNextIdFollowsTheHighestOfEveryKindButLevels) {
   EXPECT_EQ(Loaded("<lastshape id=\"90\"/>\n").nextId, 1) << "a choice in a dialog, not a record";
 }
 
+// Two records of one kind, the one with the highest id first or last.
+TEST(LayoutReader, TheNextIdFollowsTheHighestOfAKindWhereverItStands) {
+  const auto nextIdOf = [](const std::string& before, const std::string& id,
+                           const std::string& other, const std::string& after) {
+    return Loaded(before + id + after + before + other + after).nextId;
+  };
+  const struct {
+    const char* before;  // up to the id
+    const char* after;
+  } kinds[] = {
+      {"<pieces>\n<piece id=\"", "\" cat=\"a\" x=\"1\" y=\"2\" heading=\"3\">\n</pieces>\n"},
+      {"<pieces>\n    <piece id=\"",
+       "\" cat=\"a\" x=\"1.0000\" y=\"2.0000\" heading=\"3.0000\" z=\"4.0000\" "
+       "grade=\"5.0000\" level=\"1\" sel=\"0\">\n    </piece>\n  </pieces>\n"},
+      {"<scenery>\n<sceneryitem id=\"",
+       "\" item=\"a\" x=\"1\" y=\"2\" heading=\"3\"/>\n</scenery>\n"},
+      {"<label id=\"", "\" x=\"1\" y=\"2\" text=\"a\"/>\n"},
+      {"<shape id=\"", "\">\n<v x=\"1\" y=\"2\"/>\n</shape>\n"},
+      {"<tunnel id=\"", "\" portalA=\"1\" portalB=\"2\">\n</tunnel>\n"},
+      {"<helix id=\"",
+       "\" cx=\"1\" cy=\"2\" heading=\"3\" bottomR1=\"4\" bottomR2=\"5\" topR1=\"6\" "
+       "topR2=\"7\"/>\n"}};
+  for (const auto& kind : kinds) {
+    EXPECT_EQ(nextIdOf(kind.before, "17", "311", kind.after), 312) << kind.before;
+    EXPECT_EQ(nextIdOf(kind.before, "311", "17", kind.after), 312) << kind.before;
+  }
+}
+
 TEST(LayoutReader, TheNextIdOfNegativeIdsAloneIsOne) {
   EXPECT_EQ(Loaded("<label id=\"-7\" x=\"0\" y=\"0\"/>\n").nextId, 1);
 }

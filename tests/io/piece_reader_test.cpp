@@ -153,7 +153,7 @@ TEST(PieceReader, ReadsLinesOfTheWriterAsItReadsAllOthers) {
       "    <piece id=\"1\" cat=\"24188\" x=\"1.0000\" y=\"2.0000\" heading=\"0.0000\" z=\"0.0000\" "
       "grade=\"0.0000\" free=\"1\" level=\"1\" sel=\"0\" color=\"66051\">",
       "      <joint conn=\"1\" target=\"22\" tconn=\"0\"/>",
-      "      <joint conn=\"4095\" target=\"-1\" tconn=\"-3\"/>",
+      "      <joint conn=\"63\" target=\"-1\" tconn=\"-3\"/>",
   };
   std::mt19937 random(31);
   const std::string_view alphabet = "0123456789.-+=\"<> xidclj\r\t";
@@ -203,7 +203,7 @@ const LineChange kLineChanges[] = {
     {kPieceLine, R"(sel="0")", R"(helix="4294967299" sel="0")", "would be 3 in 32 bits"},
     {kJointLine, R"(conn="1")", R"(conn="4294967297")", "would be 1 in 32 bits"},
     {kJointLine, R"(target="22")", R"(target="2147483648")", "one too many"},
-    {kJointLine, R"(conn="1")", R"(conn="4096")", "no such connector"},
+    {kJointLine, R"(conn="1")", R"(conn="64")", "no such connector"},
     {kJointLine, R"(conn="1")", R"(conn="-1")", "no such connector"},
     {kJointLine, R"(conn="1")", R"(conn="-0")", "still 0"},
     {kJointLine, R"( target)", R"( tconn="9" target)", "the first of two tells the far connector"},
