@@ -29,6 +29,36 @@ TEST(ViewTransform, FindsTheWorldPointUnderAPixel) {
   EXPECT_NEAR(world.y, 350.0, 1e-9);
 }
 
+TEST(ViewTransform, GoesThereAndBackWithAnOffsetOfItsOwnInEachDirection) {
+  const ViewTransform view{.scale = 0.25, .offsetX = 30.0, .offsetY = -70.0};
+  // 0.25 * 424 + 30 = 136; 0.25 * -92 - 70 = -93.
+  EXPECT_EQ(view.toDevice({424.0, -92.0}), (DevicePoint{136, -93}));
+  const Vec2 world = view.toWorld({136, -93});
+  EXPECT_NEAR(world.x, 424.0, 1e-9);
+  EXPECT_NEAR(world.y, -92.0, 1e-9);
+}
+
+TEST(ViewTransform, TellsThePixelsOfAScreenInThePagesDots) {
+  // 600 dots an inch are 6.25 to a pixel.
+  const ViewTransform page{.scale = 3.0, .pixel = 6.25};
+  EXPECT_EQ(page.pixelScale(), 0.48);
+  EXPECT_EQ(page.pixels(3), 18);  // 18.75
+  EXPECT_EQ(page.pixels(0), 0);
+  EXPECT_EQ(page.pixels(-3), -18);
+  const ViewTransform coarse{.pixel = 0.3};
+  EXPECT_EQ(coarse.pixels(2), 1) << "0.6, but never nothing";
+  EXPECT_EQ(ViewTransform{}.pixels(7), 7);
+}
+
+TEST(ViewTransform, RoundsTheSizeOfTextsAndKeepsItWithinWhatTheEngineTakes) {
+  const ViewTransform page{.fontScale = 1.3};
+  EXPECT_EQ(page.fontPoints(8), 10);  // 10.4
+  EXPECT_EQ(page.fontPoints(9), 12);  // 11.7
+  EXPECT_EQ(ViewTransform{.fontScale = 0.01}.fontPoints(9), 1);
+  EXPECT_EQ(ViewTransform{.fontScale = 900.0}.fontPoints(9), 4000);
+  EXPECT_EQ(ViewTransform{.fontScale = 400.0}.fontPoints(9), 3600);
+}
+
 TEST(DeviceInt, IsDefinedForEveryDouble) {
   EXPECT_EQ(DeviceInt(std::numeric_limits<double>::quiet_NaN()), 0);
   EXPECT_EQ(DeviceInt(std::numeric_limits<double>::infinity()), 1'000'000'000);
