@@ -1,6 +1,4 @@
 #include "canvas/shape_properties_dialog.h"
-#include "app/services/number_entry.h"
-#include "app/services/wx_text.h"
 
 #include <wx/checkbox.h>
 #include <wx/clrpicker.h>
@@ -11,6 +9,9 @@
 
 #include <algorithm>
 
+#include "app/services/number_entry.h"
+#include "app/services/one_line_field.h"
+#include "app/services/wx_text.h"
 #include "doc/layout.h"
 
 namespace vantrel {
@@ -63,6 +64,7 @@ void ShapePropertiesDialog::addNameRow(wxSizer& column) {
   row->Add(new wxStaticText(this, wxID_ANY, "Name:"), 0, wxALIGN_CENTRE_VERTICAL);
   name_ =
       new wxTextCtrl(this, wxID_ANY, ToWx(start_.label), wxDefaultPosition, wxSize(kNameWidth, -1));
+  KeepOnOneLine(*name_);
   row->Add(name_, 1, wxLEFT, kMargin);
   column.Add(row, 0, wxLEFT | wxRIGHT | wxTOP | wxEXPAND, kMargin);
 }

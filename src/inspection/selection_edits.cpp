@@ -61,7 +61,7 @@ bool AddLabel(Layout& layout, std::string_view text, Vec2 at) {
   PushUndo(layout);
   Label label;
   label.id = TakeId(layout);
-  label.text = std::string(text);
+  label.text = OneLine(text);
   label.x = at.x;
   label.y = at.y;
   layout.labels.push_back(std::move(label));

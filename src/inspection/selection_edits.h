@@ -37,8 +37,8 @@ bool EnterHeight(Layout& layout, std::int32_t pieceId, std::string_view text);
 // The level becomes the active one. kMixedLevels changes nothing.
 bool ChooseLevel(Layout& layout, const SelectionPage& shown, std::int32_t levelId);
 
-// Adds a label with the text, without the white space around it, at a point of the world. Nothing
-// happens for a blank text.
+// Adds a label with the text, without the white space around it and on one line, at a point of the
+// world. Nothing happens for a blank text.
 bool AddLabel(Layout& layout, std::string_view text, Vec2 at);
 
 }  // namespace vantrel

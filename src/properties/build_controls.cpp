@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "app/services/number_entry.h"
+#include "app/services/one_line_field.h"
 #include "app/services/wx_text.h"
 #include "inspection/selection_edits.h"
 #include "properties/properties_panel.h"
@@ -97,6 +98,7 @@ void PropertiesPanel::buildLabelBox(wxSizer* column) {
   wxSizer* row = AddFramed(column, frame, wxHORIZONTAL);
   labelField_ = new wxTextCtrl(box, kLabelFieldId, wxString(), wxDefaultPosition, wxDefaultSize,
                                wxTE_PROCESS_ENTER);
+  KeepOnOneLine(*labelField_);
   row->Add(labelField_, 1, kMiddle | wxRIGHT, kGap);
   AddButton(box, row, kAddLabelId, "OK", 0);
 }

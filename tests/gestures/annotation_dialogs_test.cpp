@@ -200,6 +200,13 @@ TEST_F(SmallDialogs, ShapePropertiesHoldsAndReturnsEverything) {
   }
 }
 
+TEST_F(SmallDialogs, APastedNameOfAShapeStandsOnOneLine) {
+  const ShapePropertiesDialog dialog(frame, kRiver, kMillimetres);
+  all<wxTextCtrl>(dialog)[0]->SetValue("Mill\r\npond");
+  EXPECT_EQ(all<wxTextCtrl>(dialog)[0]->GetValue(), "Mill  pond");
+  EXPECT_EQ(dialog.properties().label, "Mill  pond");
+}
+
 TEST_F(SmallDialogs, TheHeightIsShownInThePlansUnitAndComesBackInMillimetres) {
   const std::tuple<std::int32_t, double, const char*> expected[] = {
       {kMillimetres, 63.5, "Height (above level deck, mm):"},

@@ -174,6 +174,12 @@ TEST(AddedLabel, HasTheNextIdTheTrimmedTextAndThePoint) {
   EXPECT_EQ(layout.nextId, 18);
 }
 
+TEST(AddedLabel, StandsOnOneLine) {
+  Layout layout;
+  EXPECT_TRUE(AddLabel(layout, "North\nyard\r\nand depot\n", {}));
+  EXPECT_EQ(layout.labels.at(0).text, "North yard  and depot");
+}
+
 TEST(AddedLabel, TakesOneUndoStep) {
   Layout layout;
   AddLabel(layout, "a", {});

@@ -165,6 +165,14 @@ TEST_F(PanelEvents, OkAddsTheLabelWhereTheCanvasWasPressed) {
   EXPECT_EQ(takeCalls(), kChanged);
 }
 
+TEST_F(PanelEvents, APastedLabelStandsOnOneLineInItsFieldAndInThePlan) {
+  labelField().SetValue("North\nyard");
+  EXPECT_EQ(labelField().GetValue(), "North yard");
+  press(4108);
+  ASSERT_EQ(plan().labels.size(), 1u);
+  EXPECT_EQ(plan().labels[0].text, "North yard");
+}
+
 TEST_F(PanelEvents, ReturnInTheLabelFieldAddsTheLabelAtTheOriginWithoutAPlace) {
   panel->SetPendingLabelPosition(120.5, -30.0);
   enter(labelField(), "first");

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "doc/trimmed.h"
+
 namespace vantrel {
 namespace {
 
@@ -31,7 +33,7 @@ ShapeProperties ShapePropertiesOf(const Shape& shape) {
 }
 
 void SetShapeProperties(Shape& shape, const ShapeProperties& properties) {
-  shape.label = properties.label;
+  shape.label = OneLine(properties.label);
   shape.r = properties.r;
   shape.g = properties.g;
   shape.b = properties.b;

@@ -22,6 +22,7 @@ struct ShapeProperties {
 
 ShapeProperties ShapePropertiesOf(const Shape& shape);
 
+// Line breaks in the label become blanks.
 void SetShapeProperties(Shape& shape, const ShapeProperties& properties);
 
 // The factors by which the user has resized a scenery item.
