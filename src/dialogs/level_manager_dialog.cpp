@@ -5,7 +5,6 @@
 #include <wx/msgdlg.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
-#include <wx/textdlg.h>
 
 #include <algorithm>
 #include <string>
@@ -13,10 +12,12 @@
 #include "app/services/box_text.h"
 #include "app/services/wx_text.h"
 #include "canvas/operations/level_edits.h"
+#include "dialogs/ask_text.h"
 #include "dialogs/dialog_layout.h"
 #include "dialogs/level_properties_dialog.h"
 #include "dialogs/message_boxes.h"
 #include "doc/format_length.h"
+#include "doc/trimmed.h"
 
 namespace vantrel {
 namespace {
@@ -196,7 +197,9 @@ void LevelManagerDialog::onSelected(wxListEvent& event) {
 void LevelManagerDialog::onAdd() {
   const std::string proposed = "Level " + std::to_string(nextLevelId(layout_));
   const std::string name =
-      ToUtf8(wxGetTextFromUser("Name for new level:", "Add Level", ToWx(proposed), this));
+      AskText(this, "Name for new level:", "Add Level", proposed, [this](const std::string& typed) {
+        return ConfirmsLevelName(this, typed);
+      }).value_or("");
   if (name.empty()) return;
   const std::optional<std::size_t> selected = selectedRow();
   addLevel(layout_, name);
@@ -228,8 +231,12 @@ void LevelManagerDialog::onProperties() {
     return;
   }
   LevelPropertiesDialog dialog(this, layout_.levels[*row], UnitOf(layout_));
-  if (dialog.ShowModal() != wxID_OK) return;
-  changeLevel(layout_, *row, dialog.properties());
+  LevelProperties typed;
+  do {
+    if (dialog.ShowModal() != wxID_OK) return;
+    typed = dialog.properties();
+  } while (!ConfirmsLevelName(this, std::string(Trimmed(std::string_view(typed.name)))));
+  changeLevel(layout_, *row, typed);
   fill();
   selectRow(*row);
 }

@@ -12,6 +12,7 @@
 #include <cmath>
 #include <string>
 
+#include "app/services/one_line_field.h"
 #include "app/services/wx_text.h"
 #include "dialogs/message_boxes.h"
 #include "doc/format_length.h"
@@ -59,6 +60,7 @@ void LevelPropertiesDialog::build(const Level& level) {
   grid->AddGrowableCol(1);
   grid->Add(new wxStaticText(this, wxID_ANY, "Name:"), 0, wxALIGN_CENTRE_VERTICAL);
   name_ = new wxTextCtrl(this, wxID_ANY, ToWx(level.name));
+  KeepOnOneLine(*name_);
   name_->SetMinSize(wxSize(std::max(kNameWidth, name_->GetBestSize().x), -1));
   grid->Add(name_, 0, wxEXPAND);
   buildHeight(*grid);

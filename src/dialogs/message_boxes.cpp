@@ -22,8 +22,15 @@ void Warn(wxWindow* parent, const std::string& title, const std::string& text) {
   Box(parent, title, text, wxOK | wxICON_WARNING);
 }
 
-void ReportError(wxWindow* parent, const std::string& title, const std::string& text) {
-  Box(parent, title, text, wxOK | wxICON_ERROR);
+void ReportError(wxWindow* parent, const std::string& title, const std::string& text,
+                 const std::string& reason) {
+  if (reason.empty()) {
+    Box(parent, title, text, wxOK | wxICON_ERROR);
+    return;
+  }
+  wxMessageDialog dialog(parent, BoxText(ToWx(text)), ToWx(title), wxOK | wxICON_ERROR | wxCENTRE);
+  dialog.SetExtendedMessage(ToWx(reason));
+  dialog.ShowModal();
 }
 
 bool AskQuestion(wxWindow* parent, const std::string& title, const std::string& text) {

@@ -10,7 +10,9 @@ namespace vantrel {
 // `parent` may be null.
 void Inform(wxWindow* parent, const std::string& title, const std::string& text);
 void Warn(wxWindow* parent, const std::string& title, const std::string& text);
-void ReportError(wxWindow* parent, const std::string& title, const std::string& text);
+// `reason`, unless it is empty, stands below the text, smaller.
+void ReportError(wxWindow* parent, const std::string& title, const std::string& text,
+                 const std::string& reason = {});
 
 // Yes and No; true for Yes.
 bool AskQuestion(wxWindow* parent, const std::string& title, const std::string& text);

@@ -1,16 +1,13 @@
 // Saving the selection as a library block.
-#include <wx/textdlg.h>
-
 #include <filesystem>
 #include <string>
 #include <system_error>
 
 #include "app/services/utf8_path.h"
-#include "app/services/wx_text.h"
 #include "canvas/canvas_panel.h"
 #include "canvas/operations/selection.h"
+#include "dialogs/ask_text.h"
 #include "dialogs/message_boxes.h"
-#include "doc/trimmed.h"
 #include "frame/main_frame.h"
 #include "frame/store_folder.h"
 #include "io/block_file.h"
@@ -26,10 +23,11 @@ const char* const kTitle = "Save Block";
 const char* const kSavedExtension = ".xml";
 
 // A name with a folder in it could lead out of the library, and to a plan that it would replace.
-std::string WriteBlock(const Layout& layout, const std::string& folder, const std::string& name) {
+FileProblem WriteBlock(const Layout& layout, const std::string& folder, const std::string& name) {
   const std::string path = PathIn(folder, name) + kSavedExtension;
-  if (Utf8Path(name).has_parent_path()) return "Cannot open file: " + path;
-  return SaveBlockFile(layout, path, name);
+  if (Utf8Path(name).has_parent_path())
+    return {"Cannot open file: " + path, "The name of a block can't name a folder."};
+  return WriteBlockFile(layout, path, name);
 }
 
 }  // namespace
@@ -40,17 +38,15 @@ void MainFrame::onSaveBlock(wxCommandEvent&) {
     Inform(nullptr, kTitle, "Select pieces first to save as library block.");
     return;
   }
-  wxTextEntryDialog dialog(this, "Block name:", "Save Library Block");
-  if (dialog.ShowModal() != wxID_OK) return;
-  const std::string name = OneLine(ToUtf8(dialog.GetValue()));
+  const std::string name = AskText(this, "Block name:", "Save Library Block", "").value_or("");
   if (name.empty()) return;
   const std::string folder = palette_->libraryFolder();
   // Where it can't be made, writing the file says so.
   std::error_code error;
   std::filesystem::create_directories(Utf8Path(folder), error);
-  const std::string problem = WriteBlock(layout_, folder, name);
-  if (!problem.empty()) {
-    ReportError(this, "Save Block Failed", problem);
+  const FileProblem problem = WriteBlock(layout_, folder, name);
+  if (!problem.none()) {
+    ReportError(this, "Save Block Failed", problem.what, problem.why);
     return;
   }
   palette_->RefreshLibrary();

@@ -8,6 +8,7 @@
 
 #include <utility>
 
+#include "app/services/one_line_field.h"
 #include "app/services/wx_text.h"
 #include "dialogs/dialog_layout.h"
 #include "frame/store_folder.h"
@@ -34,6 +35,7 @@ ExportDialog::ExportDialog(wxWindow* parent, std::vector<std::string> files,
   list_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { takeRow(); });
   list_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { acceptRow(); });
   name_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { updateButton(); });
+  KeepOnOneLine(*name_);
   list_->SetFocus();
 }
 
@@ -80,7 +82,7 @@ std::string ExportDialog::folder() const {
 }
 
 std::string ExportDialog::fileName() const {
-  return ToUtf8(Trimmed(name_->GetValue()));
+  return ToUtf8(Trimmed(WithoutLineBreaks(name_->GetValue())));
 }
 
 void ExportDialog::takeRow() {

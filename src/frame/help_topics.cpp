@@ -259,7 +259,8 @@ you never have to look for them.
 Ctrl+S saves, and asks for a name the first time. File, Save As... (Ctrl+Shift+S) saves under
 another name. File, Open Layout... (Ctrl+O) lists your plans, and its Delete... button removes one
 for good. New Layout (Ctrl+N) and Close Layout (Ctrl+W) both begin anew. When there are changes
-you haven't saved, the program asks first; a star in the title bar tells that there are some.
+you haven't saved, the program asks first; a star in the title bar tells that there are some. A
+save that fails says why: a full disk, a folder that isn't there.
 
 File, Import Layout... takes a plan from another folder into yours, and File, Export Layout...
 copies one out as it was last saved, to send it to a friend or to keep it safe.

@@ -6,6 +6,7 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include "app/services/one_line_field.h"
 #include "app/services/wx_text.h"
 #include "dialogs/dialog_layout.h"
 #include "frame/store_folder.h"
@@ -47,6 +48,7 @@ ImportDialog::ImportDialog(wxWindow* parent, const std::string& folder)
   list_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { takeRow(); });
   list_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { acceptRow(); });
   name_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { updateButton(); });
+  KeepOnOneLine(*name_);
   refill();
   FitAtLeast(*this, column, kSize);
   Centre();
@@ -60,7 +62,7 @@ std::string ImportDialog::sourcePath() const {
 }
 
 std::string ImportDialog::layoutName() const {
-  return ToUtf8(Trimmed(name_->GetValue()));
+  return ToUtf8(Trimmed(WithoutLineBreaks(name_->GetValue())));
 }
 
 std::string ImportDialog::folder() const {
@@ -76,7 +78,7 @@ void ImportDialog::refill() {
 
 void ImportDialog::takeRow() {
   const std::string source = sourcePath();
-  if (!source.empty()) name_->ChangeValue(ToWx(BaseName(source)));
+  if (!source.empty()) name_->ChangeValue(WithoutLineBreaks(ToWx(BaseName(source))));
   updateButton();
 }
 

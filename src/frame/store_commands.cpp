@@ -1,15 +1,17 @@
 // New, Save, Open and Close, and the question that guards unsaved changes.
 #include <wx/menu.h>
-#include <wx/textdlg.h>
 
 #include <algorithm>
+#include <optional>
+#include <string_view>
 
-#include "app/services/wx_text.h"
 #include "canvas/canvas_panel.h"
 #include "canvas/operations/joining.h"
 #include "catalog/track_catalog.h"
+#include "dialogs/ask_text.h"
 #include "dialogs/message_boxes.h"
 #include "doc/layout_ops.h"
+#include "doc/trimmed.h"
 #include "doc/undo.h"
 #include "frame/commands.h"
 #include "frame/main_frame.h"
@@ -25,6 +27,11 @@ namespace vantrel {
 namespace {
 
 constexpr const char* kFirstName = "My Layout";
+
+std::string NameOf(const std::string& typed) {
+  const std::string_view name = Trimmed(typed);
+  return std::string(name.empty() ? kFirstName : name);
+}
 
 bool HoldsZTrack(const Layout& layout) {
   return std::ranges::any_of(layout.pieces, [](const Piece& piece) {
@@ -99,9 +106,9 @@ bool MainFrame::SaveLayout(bool askName) {
 }
 
 bool MainFrame::writeLayout() {
-  const std::string problem = SaveLayoutFile(layout_, currentPath_, layoutName_);
-  if (!problem.empty()) {
-    ReportError(nullptr, "Save Failed", problem);
+  const FileProblem problem = WriteLayoutFile(layout_, currentPath_, layoutName_);
+  if (!problem.none()) {
+    ReportError(nullptr, "Save Failed", problem.what, problem.why);
     return false;
   }
   dirty_ = false;
@@ -111,11 +118,11 @@ bool MainFrame::writeLayout() {
 
 // Sets currentPath and layoutName, which stay even when the write then fails.
 bool MainFrame::askLayoutName() {
-  wxTextEntryDialog dialog(this, "Layout name:", "Save Layout",
-                           ToWx(layoutName_.empty() ? kFirstName : layoutName_));
-  if (dialog.ShowModal() != wxID_OK) return false;
-  std::string name = ToUtf8(Trimmed(dialog.GetValue()));
-  if (name.empty()) name = kFirstName;
+  const std::optional<std::string> typed =
+      AskText(this, "Layout name:", "Save Layout", layoutName_.empty() ? kFirstName : layoutName_,
+              [this](const std::string& text) { return ConfirmsLayoutName(this, NameOf(text)); });
+  if (!typed) return false;
+  const std::string name = NameOf(*typed);
   const std::string path = LayoutPath(folders_.store, name);
   if (FileExists(path) && !confirmReplace(name)) return false;
   currentPath_ = path;

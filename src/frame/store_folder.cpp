@@ -7,14 +7,32 @@
 
 #include "app/services/program_folders.h"
 #include "app/services/utf8_path.h"
+#include "io/file_problem.h"
 
 namespace vantrel {
 namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::string_view kExtension = ".vtl";
+constexpr std::string_view kOlderExtension = ".xml";
+
+bool IsLower(char c) {
+  return c >= 'a' && c <= 'z';
+}
+
+bool IsUpper(char c) {
+  return c >= 'A' && c <= 'Z';
+}
+
+// Two to four letters of one case. "Nr. 491", "v1.5" and "Bhf.Nord" are names to their ends.
+bool LooksLikeExtension(std::string_view letters) {
+  if (letters.size() < 2 || letters.size() > 4) return false;
+  return std::ranges::all_of(letters, IsLower) || std::ranges::all_of(letters, IsUpper);
+}
+
 std::vector<std::string> SortedNames(const std::string& folder, std::string_view extension) {
-  std::vector<std::string> names = FileNamesIn(folder, extension);
+  std::vector<std::string> names = FileNamesIn(folder, extension, HiddenFiles::listed);
   std::ranges::sort(names);
   return names;
 }
@@ -22,8 +40,8 @@ std::vector<std::string> SortedNames(const std::string& folder, std::string_view
 }  // namespace
 
 std::vector<std::string> LayoutFileNames(const std::string& folder) {
-  std::vector<std::string> names = SortedNames(folder, ".vtl");
-  const std::vector<std::string> older = SortedNames(folder, ".xml");
+  std::vector<std::string> names = SortedNames(folder, kExtension);
+  const std::vector<std::string> older = SortedNames(folder, kOlderExtension);
   names.insert(names.end(), older.begin(), older.end());
   return names;
 }
@@ -56,7 +74,16 @@ std::string PathIn(const std::string& folder, const std::string& name) {
 }
 
 std::string LayoutPath(const std::string& store, const std::string& name) {
-  return PathIn(store, name) + ".vtl";
+  return PathIn(store, name).append(kExtension);
+}
+
+std::string ExportFileName(const std::string& typed, const std::string& offered) {
+  std::string name = typed;
+  const std::size_t dot = name.rfind('.');
+  const bool cut = typed != offered && dot != std::string::npos && dot > 0 &&
+                   LooksLikeExtension(std::string_view(typed).substr(dot + 1));
+  if (cut) name.resize(dot);
+  return name.append(kExtension);
 }
 
 bool FileExists(const std::string& path) {
@@ -80,11 +107,16 @@ bool RemoveFile(const std::string& path) {
   return fs::remove(Utf8Path(path), error);
 }
 
-bool CopyLayoutFile(const std::string& from, const std::string& to) {
+bool CopyLayoutFile(const std::string& from, const std::string& to, std::string* why) {
   if (IsSameFile(from, to)) return FileExists(to);
-  std::error_code error;
-  fs::copy_file(Utf8Path(from), Utf8Path(to), fs::copy_options::overwrite_existing, error);
-  return !error;
+  std::string problem = WhyNoPlainFile(to);
+  if (problem.empty()) {
+    std::error_code error;
+    fs::copy_file(Utf8Path(from), Utf8Path(to), fs::copy_options::overwrite_existing, error);
+    problem = WhyNotWritten(error);
+  }
+  if (why != nullptr) *why = problem;
+  return problem.empty();
 }
 
 }  // namespace vantrel

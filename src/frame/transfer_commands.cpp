@@ -1,7 +1,5 @@
 // Import and Export: layouts into the store and out of it.
-#include <filesystem>
-
-#include "app/services/utf8_path.h"
+#include "dialogs/ask_text.h"
 #include "dialogs/message_boxes.h"
 #include "frame/export_dialog.h"
 #include "frame/import_dialog.h"
@@ -14,13 +12,6 @@ namespace {
 
 constexpr const char* kImportFailed = "Import Failed";
 constexpr const char* kExportFailed = "Export Failed";
-
-// The name with whatever extension the user typed replaced by the layout's own.
-std::string ExportFileName(const std::string& typed) {
-  std::filesystem::path name = Utf8Path(typed);
-  name.replace_extension(".vtl");
-  return PathUtf8(name);
-}
 
 std::string CopyFailedText(const std::string& path) {
   return "Could not copy the file to:\n" + path;
@@ -42,9 +33,11 @@ void MainFrame::importLayout() {
   std::string name;
   {
     ImportDialog dialog(this, ExchangeFolder(folders_));
-    if (dialog.ShowModal() != wxID_OK) return;
-    source = dialog.sourcePath();
-    name = dialog.layoutName();
+    do {
+      if (dialog.ShowModal() != wxID_OK) return;
+      source = dialog.sourcePath();
+      name = dialog.layoutName();
+    } while (!ConfirmsLayoutName(this, name));
   }
   if (source.empty() || name.empty()) return;
   const std::string target = LayoutPath(folders_.store, name);
@@ -59,21 +52,22 @@ bool MainFrame::copyIntoStore(const std::string& source, const std::string& targ
                               const std::string& name) {
   std::string oldName;
   vantrel::Layout probe;
-  std::string problem = LoadLayoutFile(probe, source, oldName);
+  const std::string problem = LoadLayoutFile(probe, source, oldName);
   if (!problem.empty()) {
     ReportError(this, kImportFailed,
                 "This file does not appear to be a Vantrel layout:\n\n" + problem);
     return false;
   }
-  if (!CopyLayoutFile(source, target)) {
-    ReportError(this, kImportFailed, CopyFailedText(target));
+  std::string why;
+  if (!CopyLayoutFile(source, target, &why)) {
+    ReportError(this, kImportFailed, CopyFailedText(target), why);
     return false;
   }
   vantrel::Layout copy;
   if (!LoadLayoutFile(copy, target, oldName).empty()) return true;
-  problem = SaveLayoutFile(copy, target, name);
-  if (!problem.empty()) ReportError(this, kImportFailed, problem);
-  return problem.empty();
+  const FileProblem unwritten = WriteLayoutFile(copy, target, name);
+  if (!unwritten.none()) ReportError(this, kImportFailed, unwritten.what, unwritten.why);
+  return unwritten.none();
 }
 
 void MainFrame::exportLayout() {
@@ -91,16 +85,17 @@ void MainFrame::exportLayout() {
     ReportError(this, kExportFailed, "Destination folder does not exist:\n" + folder);
     return;
   }
-  const std::string fileName = ExportFileName(dialog.fileName());
+  const std::string fileName = ExportFileName(dialog.fileName(), BaseName(source));
   const std::string target = PathIn(folder, fileName);
   if (FileExists(target) &&
       !AskCautiously(this, "Confirm Replace",
                      "\"" + fileName + "\" already exists in that folder.\n\nReplace it?"))
     return;
-  if (CopyLayoutFile(source, target))
+  std::string why;
+  if (CopyLayoutFile(source, target, &why))
     Inform(this, "Export", "Exported to:\n" + target);
   else
-    ReportError(this, kExportFailed, CopyFailedText(target));
+    ReportError(this, kExportFailed, CopyFailedText(target), why);
 }
 
 }  // namespace vantrel

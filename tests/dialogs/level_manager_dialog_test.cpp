@@ -120,6 +120,38 @@ TEST_F(LevelManager, HasItsTextsColumnsAndSize) {
   EXPECT_EQ(FindControl<wxButton>(dialog(), "Close")->GetId(), wxID_OK);
 }
 
+std::string UnreadableLevel(const std::string& name) {
+  return "A layout with a level named \"" + name +
+         "\" could not be opened again: the end of the name would be read as a setting.\n\nUse "
+         "this name all the same?";
+}
+
+TEST_F(LevelManager, ANewLevelsNameThatCouldNotBeReadBackIsAskedForAgain) {
+  const auto typed = [](const std::string& name) {
+    return [name](wxDialog& asked) { dynamic_cast<wxTextEntryDialog&>(asked).SetValue(name); };
+  };
+  script_.dialog("Add Level", wxID_OK, typed("Deck height="));
+  script_.box("Level Name", UnreadableLevel("Deck height="), kCautiousBox, wxID_NO);
+  script_.dialog("Add Level", wxID_OK, typed("Keller="));
+  script_.box("Level Name", UnreadableLevel("Keller="), kCautiousBox, wxID_YES);
+  Press(dialog(), "Add Level");
+  ASSERT_EQ(plan_.levels.size(), 4u);
+  EXPECT_EQ(plan_.levels[3].name, "Keller=");
+}
+
+TEST_F(LevelManager, ALevelsNewNameThatCouldNotBeReadBackIsAskedForAgain) {
+  Select(dialog(), 1);
+  script_.dialog("Level Properties: Deck 2", wxID_OK,
+                 [](wxDialog& asked) { FindControl<wxTextCtrl>(asked)->SetValue("Ring= "); });
+  script_.box("Level Name", UnreadableLevel("Ring="), kCautiousBox, wxID_NO);
+  script_.dialog("Level Properties: Deck 2", wxID_OK, [](wxDialog& asked) {
+    EXPECT_EQ(FindControl<wxTextCtrl>(asked)->GetValue(), "Ring= ");
+    FindControl<wxTextCtrl>(asked)->SetValue("Ring");
+  });
+  Activate(dialog(), 1);
+  EXPECT_EQ(plan_.levels[1].name, "Ring");
+}
+
 TEST_F(LevelManager, StandsInTheMiddleOfItsParent) {
   parent_->SetSize(340, 210, 720, 560);
   const wxRect parent = parent_->GetRect();

@@ -40,6 +40,13 @@ TEST_F(LevelPropertiesPage, ShowsWhatTheLevelHas) {
   EXPECT_EQ(FindControl<wxColourPickerCtrl>(dialog)->GetColour(), wxColour(10, 20, 30));
 }
 
+TEST_F(LevelPropertiesPage, APastedNameStandsOnOneLine) {
+  LevelPropertiesDialog dialog(parent_, level_, unit(kMillimetres));
+  FindControl<wxTextCtrl>(dialog)->SetValue("Upper\ndeck");
+  EXPECT_EQ(FindControl<wxTextCtrl>(dialog)->GetValue(), "Upper deck");
+  EXPECT_EQ(dialog.properties().name, "Upper deck");
+}
+
 TEST_F(LevelPropertiesPage, TakesTheHeightInTheUnit) {
   const char* captions[] = {
       "Height off the ground (mm):", "Height off the ground (cm):", "Height off the ground (in):"};

@@ -77,6 +77,16 @@ TEST_F(Export, DropsAnExtensionThatTheUserTyped) {
   }
 }
 
+TEST_F(Export, ANameWithADotInItLeavesWhole) {
+  put("Anlage Nr. 491.vtl");
+  ModalScript script;
+  script.dialog("Export Layout", wxID_OK, choose(0));
+  script.box("Export", "Exported to:\n" + inDownloads("Anlage Nr. 491.vtl"), kInformationBox,
+             wxID_OK);
+  command(1901);
+  EXPECT_TRUE(std::filesystem::exists(inDownloads("Anlage Nr. 491.vtl")));
+}
+
 TEST_F(Export, StartsWithTheOpenLayoutSelectedWhateverItsCase) {
   put("Alpha.vtl");
   put("Yard.vtl");
@@ -113,6 +123,8 @@ TEST_F(Export, StartsWithNothingSelectedForALayoutWithoutAName) {
   ClickRow(controls.list, 0);
   EXPECT_EQ(controls.name.GetValue(), "Alpha");
   EXPECT_TRUE(controls.accept.IsEnabled());
+  controls.name.SetValue("North\nyard");
+  EXPECT_EQ(controls.name.GetValue(), "North yard");
   controls.name.SetValue("   ");
   EXPECT_FALSE(controls.accept.IsEnabled()) << "only blanks";
 }

@@ -132,6 +132,39 @@ TEST_F(Import, CopiesTheFileAndPutsTheNewNameIntoIt) {
   EXPECT_TRUE(plan().pieces.empty());
 }
 
+TEST_F(Import, ANameOfTwoLinesIsKeptOnOne) {
+  put("North\nyard.vtl");
+  ModalScript script;
+  script.dialog("Import Layout", wxID_OK, [this](wxDialog& dialog) {
+    choose(0)(dialog);
+    EXPECT_EQ(Controls(dialog).name.GetValue(), "North yard") << "from the file's name";
+    Controls(dialog).name.SetValue("South\r\nyard\n");
+    EXPECT_EQ(Controls(dialog).name.GetValue(), "South  yard ");
+  });
+  script.box("Import", question("South  yard"), kQuestionBox, wxID_YES);
+  command(1900);
+  EXPECT_EQ(frame().layoutName(), "South  yard");
+  EXPECT_EQ(frame().currentPath(), inStore("South  yard.vtl"));
+}
+
+TEST_F(Import, ANameThatCouldNotBeReadBackIsAskedForAgain) {
+  put("old.vtl");
+  ModalScript script;
+  script.dialog("Import Layout", wxID_OK, choose(0, "Plan units="));
+  script.box("Layout Name",
+             "A layout named \"Plan units=\" could not be opened again: the end of the name would "
+             "be read as a setting.\n\nUse this name all the same?",
+             kCautiousBox, wxID_NO);
+  script.dialog("Import Layout", wxID_OK, [](wxDialog& dialog) {
+    EXPECT_EQ(Controls(dialog).name.GetValue(), "Plan units=");
+    Controls(dialog).name.SetValue("Plan");
+  });
+  script.box("Import", question("Plan"), kQuestionBox, wxID_NO);
+  command(1900);
+  EXPECT_TRUE(std::filesystem::exists(inStore("Plan.vtl")));
+  EXPECT_FALSE(std::filesystem::exists(inStore("Plan units=.vtl")));
+}
+
 TEST_F(Import, OpensTheLayoutWhenTheUserWantsIt) {
   put("a.vtl");
   frame().markDirty();

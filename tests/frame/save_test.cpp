@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <wx/textdlg.h>
 
 #include "tests/frame/frame_fixture.h"
@@ -54,6 +55,17 @@ TEST_F(Save, AsksNothingWhenTheLayoutHasAFile) {
   save();
   EXPECT_FALSE(frame().dirty());
   EXPECT_NE(ReadFileText(inStore("One.vtl")).find("cat=\"24188\""), std::string::npos);
+}
+
+TEST_F(Save, APastedNameOfTwoLinesIsKeptOnOneAndReadBackWithTheUnits) {
+  plan().units = kInches;
+  saveUnder("North\nyard\r\n");
+  EXPECT_EQ(frame().layoutName(), "North yard");
+  EXPECT_EQ(frame().currentPath(), inStore("North yard.vtl"));
+  plan().units = kMillimetres;
+  frame().LoadIntoFrame(inStore("North yard.vtl"));
+  EXPECT_EQ(frame().layoutName(), "North yard");
+  EXPECT_EQ(plan().units, kInches);
 }
 
 TEST_F(Save, AnEmptyNameBecomesMyLayout) {
@@ -126,6 +138,57 @@ TEST_F(Save, AFullDiskIsReportedAndTheLayoutStaysDirty) {
   script.box("Save Failed", "Cannot write file: " + inStore("Full.vtl"), kErrorBox, wxID_OK);
   save();
   EXPECT_TRUE(frame().dirty());
+}
+
+TEST_F(Save, AFailureTellsItsReason) {
+  ModalScript script;
+  script.dialog("Save Layout", wxID_OK, TypeName("north/south"));
+  script.box("Save Failed", "Cannot open file: " + inStore("north/south.vtl"), kErrorBox, wxID_OK);
+  saveAs();
+  std::filesystem::create_directory(inStore("Yard.vtl"));
+  script.dialog("Save Layout", wxID_OK, TypeName("Yard"));
+  script.box("Save Failed", "Cannot open file: " + inStore("Yard.vtl"), kErrorBox, wxID_OK);
+  saveAs();
+  EXPECT_EQ(script.boxReasons(),
+            (std::vector<std::string>{"There is no such folder.", "A folder has that name."}));
+}
+
+TEST_F(Save, OntoAPipeIsRefusedAndNotWaitedFor) {
+  ASSERT_EQ(mkfifo(inStore("Pipe.vtl").c_str(), 0600), 0);
+  frame().markDirty();
+  ModalScript script;
+  script.dialog("Save Layout", wxID_OK, TypeName("Pipe"));
+  script.box("Confirm Replace", "A layout named \"Pipe\" already exists.\n\nReplace it?",
+             kCautiousBox, wxID_YES);
+  script.box("Save Failed", "Cannot write file: " + inStore("Pipe.vtl"), kErrorBox, wxID_OK);
+  save();
+  EXPECT_EQ(script.boxReasons().back(), "What has that name is no file, but a pipe or a device.");
+  EXPECT_TRUE(frame().dirty());
+}
+
+constexpr const char* kUnreadableName =
+    "A layout named \"Plan units=\" could not be opened again: the end of the name would be read "
+    "as a setting.\n\nUse this name all the same?";
+
+TEST_F(Save, ANameThatCouldNotBeReadBackIsAskedForAgain) {
+  std::string offered;
+  ModalScript script;
+  script.dialog("Save Layout", wxID_OK, TypeName("  Plan units= "));
+  script.box("Layout Name", kUnreadableName, kCautiousBox, wxID_NO);
+  script.dialog("Save Layout", wxID_OK, TypeName("Plan", &offered));
+  saveAs();
+  EXPECT_EQ(offered, "  Plan units= ");
+  EXPECT_EQ(frame().layoutName(), "Plan");
+  EXPECT_FALSE(std::filesystem::exists(inStore("Plan units=.vtl")));
+}
+
+TEST_F(Save, ANameThatCouldNotBeReadBackIsTakenWhenTheUserWantsIt) {
+  ModalScript script;
+  script.dialog("Save Layout", wxID_OK, TypeName("Plan units="));
+  script.box("Layout Name", kUnreadableName, kCautiousBox, wxID_YES);
+  saveAs();
+  EXPECT_EQ(frame().layoutName(), "Plan units=");
+  EXPECT_TRUE(std::filesystem::exists(inStore("Plan units=.vtl")));
 }
 
 TEST_F(Save, ConfirmDiscardAsksNothingOfACleanLayout) {

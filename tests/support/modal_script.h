@@ -48,6 +48,8 @@ class ModalScript : public wxModalDialogHook {
   bool finished() const { return steps_.empty(); }
   // The texts of all message boxes so far.
   const std::vector<std::string>& boxTexts() const { return boxTexts_; }
+  // What stands below them, smaller; empty where nothing does.
+  const std::vector<std::string>& boxReasons() const { return boxReasons_; }
 
  protected:
   int Enter(wxDialog* shownDialog) override {
@@ -55,6 +57,7 @@ class ModalScript : public wxModalDialogHook {
     const std::string title = shownDialog->GetTitle().utf8_string();
     const std::string text = message ? message->GetMessage().utf8_string() : std::string();
     if (message) boxTexts_.push_back(text);
+    if (message) boxReasons_.push_back(message->GetExtendedMessage().utf8_string());
     if (steps_.empty()) {
       ADD_FAILURE() << "unexpected dialog: " << title << "\n" << text;
       return wxID_CANCEL;
@@ -81,6 +84,7 @@ class ModalScript : public wxModalDialogHook {
 
   std::deque<Step> steps_;
   std::vector<std::string> boxTexts_;
+  std::vector<std::string> boxReasons_;
 };
 
 // The flavours of message box, as styles.

@@ -47,7 +47,8 @@ std::string ExchangeFolder(const ProgramFolders& folders) {
   return IsFolder(folders.downloads) ? folders.downloads : folders.home;
 }
 
-std::vector<std::string> FileNamesIn(const std::string& folder, std::string_view extension) {
+std::vector<std::string> FileNamesIn(const std::string& folder, std::string_view extension,
+                                     HiddenFiles hidden) {
   std::vector<std::string> names;
   std::error_code error;
   std::filesystem::directory_iterator entry(Utf8Path(folder), error);
@@ -55,8 +56,9 @@ std::vector<std::string> FileNamesIn(const std::string& folder, std::string_view
   while (!error && entry != end) {
     const std::string name = PathUtf8(entry->path().filename());
     std::error_code unreadable;
-    if (name.ends_with(extension) && !name.starts_with('.') && entry->is_regular_file(unreadable))
-      names.push_back(name);
+    const bool named = name.ends_with(extension) && name.size() > extension.size();
+    const bool shown = hidden == HiddenFiles::listed || !name.starts_with('.');
+    if (named && shown && entry->is_regular_file(unreadable)) names.push_back(name);
     entry.increment(error);
   }
   return names;

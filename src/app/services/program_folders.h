@@ -26,8 +26,12 @@ std::string LogFolder(const std::string& wanted);
 // Downloads while that exists, otherwise the home folder.
 std::string ExchangeFolder(const ProgramFolders& folders);
 
-// The names, in the order of the folder, of its regular files that end with `extension`, hidden
-// ones left out. Empty for a folder that can't be read.
-std::vector<std::string> FileNamesIn(const std::string& folder, std::string_view extension);
+// What becomes of files whose names begin with a dot.
+enum class HiddenFiles { leftOut, listed };
+
+// The names, in the order of the folder, of its regular files that end with `extension` behind a
+// name. Empty for a folder that can't be read.
+std::vector<std::string> FileNamesIn(const std::string& folder, std::string_view extension,
+                                     HiddenFiles hidden = HiddenFiles::leftOut);
 
 }  // namespace vantrel
