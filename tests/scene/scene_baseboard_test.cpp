@@ -122,6 +122,39 @@ TEST(SceneBaseboard, OfThousandsOfVerticesIsCoveredWhole) {
   EXPECT_EQ(TriangleCount(mesh), 19'998U);
 }
 
+TEST(SceneBaseboard, OfTwentyFiveThousandVerticesIsNoScribble) {
+  // More vertices than crossings are allowed: where two edges follow each other they touch, and
+  // that is no crossing, nor does an edge cross itself.
+  std::vector<Vec2> circle;
+  for (int i = 0; i < 25'000; ++i) {
+    const double angle = i * 2.0 * 3.141592653589793 / 25'000;
+    circle.push_back({1000 * std::cos(angle), 1000 * std::sin(angle)});
+  }
+  EXPECT_EQ(TriangleCount(BoardOf(circle)), 24'998U);
+}
+
+TEST(SceneBaseboard, ThatIsACombOfHundredsOfTeethIsDrawn) {
+  // 300 teeth, 1000 mm long and 4 mm wide, every 10 mm along a back 100 mm wide. The ends of all
+  // teeth lie in one line, 300 x 299 / 2 = 44,850 pairs of edges, and so do the gaps: none of them
+  // meets another.
+  for (const double down : {1.0, -1.0}) {
+    std::vector<Vec2> comb{{-100, 0}};
+    for (int i = 0; i < 300; ++i) {
+      const double y = down * 10.0 * i;
+      for (const Vec2 corner :
+           {Vec2{0, y}, Vec2{1000, y}, Vec2{1000, y + down * 4.0}, Vec2{0, y + down * 4.0}})
+        comb.push_back(corner);
+    }
+    comb.push_back({-100, down * 2994.0});
+    const Mesh mesh = BoardOf(comb);
+    ExpectSound(mesh);
+    // 300 x 1000 x 4 and 100 x 2994.
+    EXPECT_NEAR(AreaOf(mesh), 1'499'400.0, 10.0) << down;
+    std::ranges::reverse(comb);
+    EXPECT_NEAR(AreaOf(BoardOf(comb)), 1'499'400.0, 10.0) << down;
+  }
+}
+
 TEST(SceneBaseboard, ThatIsAScribbleOfThousandsOfStrokesIsLeftOut) {
   // Each stroke across crosses thousands of others: the tessellator would work for minutes.
   std::vector<Vec2> scribble;
