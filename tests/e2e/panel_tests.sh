@@ -80,26 +80,27 @@ slopes() { sed -n 's/.*<piece .* grade="\([^"]*\)".*/\1/p' "$1" | tr '\n' ' '; }
 # runs FILE: "degrees at anchor" of every grade in force.
 runs() { sed -n 's/.*<run deg="\([^"]*\)" anchor="\([^"]*\)".*/\1 at \2/p' "$1"; }
 
-# select_straight N: the Nth 24188 of a row that begins at (600, 600), by a click on its middle. A
+# select_straight N: the Nth 24188 of a row that begins at (150, 600), by a click on its middle. A
 # click on empty canvas goes before, for the press that an extension swallows.
 select_straight() {
   at 600 1000
   click
-  at $((694 + 1883 * ($1 - 1) / 10)) 600
+  at $((244 + 1883 * ($1 - 1) / 10)) 600
   click
   settle
 }
 
-# extend_straight N: by a double click on the Nth of that row, which the next one then follows.
+# extend_straight N: by a double click on the Nth of that row, which the next one then follows. The
+# row must end in view, or the view would follow it.
 extend_straight() {
-  at $((694 + 1883 * ($1 - 1) / 10)) 600
+  at $((244 + 1883 * ($1 - 1) / 10)) 600
   double_click
 }
 
 first_straight() {
   find_palette || return 1
   # shellcheck disable=SC2046
-  drag_from $(cell "" 5) 300 300
+  drag_from $(cell "" 5) 120 300
   drop
   key Escape
   select_straight 1
