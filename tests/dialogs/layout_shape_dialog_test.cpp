@@ -244,6 +244,7 @@ TEST_F(LayoutShape, StartsFromTheTableThatTheLastShapeDoesntGive) {
   plan_.baseboard = {{0, 0}, {3000, 0}, {0, 2000}};
   LayoutShapeDialog dialog(parent_, plan_);
   EXPECT_EQ(FindControl<wxChoice>(dialog)->GetSelection(), 4);
+  ASSERT_NE(FindControl<wxTextCtrl>(dialog), nullptr);
   EXPECT_EQ(FindControl<wxTextCtrl>(dialog)->GetValue(), "0.00,0.00\n300.00,0.00\n0.00,200.00\n");
   EXPECT_EQ(plan_.lastShape, last) << "nothing is written before Apply";
 }
