@@ -35,7 +35,9 @@ struct Way {
   std::array<Stretch, 2> parts;
   std::size_t partCount = 1;
 
-  std::span<const Stretch> stretches() const { return {parts.data(), partCount}; }
+  std::span<const Stretch> stretches() const& { return {parts.data(), partCount}; }
+  // Of a passing value they would be gone before they are seen.
+  std::span<const Stretch> stretches() const&& = delete;
   double length() const;  // mm along the track
   // The point and heading `distance` mm along the track; before its start and beyond its end the
   // track is taken to go on as it begins and ends.

@@ -62,8 +62,10 @@ void TakeInWays(CentreLines& lines, const PieceDef& def) {
     lines.takeInSquare(std::max(std::abs(def.length) / 2.0, std::abs(def.radius)));
   // Where the part number stands on all kinds but curves, also where no track is.
   if (def.kind != PieceKind::Curve) lines.takeIn(StraightOf(def));
-  for (std::size_t i = 0; i < WayCount(def); ++i)
-    for (const Stretch& stretch : WayOf(def, i).stretches()) lines.takeIn(stretch);
+  for (std::size_t i = 0; i < WayCount(def); ++i) {
+    const Way way = WayOf(def, i);
+    for (const Stretch& stretch : way.stretches()) lines.takeIn(stretch);
+  }
 }
 
 PieceReach ComputePieceReach(const PieceDef& def) {

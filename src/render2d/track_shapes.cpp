@@ -30,8 +30,8 @@ void DrawStretch(const TrackPaint& paint, const Stretch& stretch, Rgb8 colour) {
 }
 
 void DrawWay(const TrackPaint& paint, std::size_t way, Rgb8 colour) {
-  for (const Stretch& stretch : WayOf(paint.def, way).stretches())
-    DrawStretch(paint, stretch, colour);
+  const Way drawn = WayOf(paint.def, way);
+  for (const Stretch& stretch : drawn.stretches()) DrawStretch(paint, stretch, colour);
 }
 
 void DrawStraightBed(const TrackPaint& paint, Rgb8 colour) {
