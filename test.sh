@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and runs all tests: the windowless rooms once more under the
-# sanitizers, the windows on a virtual display.
+# Installs what is missing, builds, and runs all tests: the windowless rooms and what draws once more
+# under the sanitizers, the windows on a virtual display.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 . "$root/scripts/lib.sh"
 
 need_packages "${build_packages[@]}" "${display_packages[@]}" "${test_packages[@]}"
+wish_packages "${quick_packages[@]}"
 
-echo "== Sanitizers: the windowless rooms"
+echo "== Sanitizers: the windowless rooms, and what draws"
 build asan
 (cd "$root" && ctest --preset asan -j "$(nproc)" --output-on-failure --no-tests=error)
 

@@ -41,7 +41,7 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release")
     $<$<BOOL:$<TARGET_PROPERTY:VANTREL_IS_TEST>>:-O0>)
 endif()
 
-if(VANTREL_WINDOWS)
+if(VANTREL_WINDOWS OR VANTREL_DRAWING)
   find_package(wxWidgets 3.2 REQUIRED COMPONENTS core base)
   add_library(vantrel_wx INTERFACE)
   # As system headers: the toolkit's own headers are not ours to warn about.
@@ -49,7 +49,9 @@ if(VANTREL_WINDOWS)
   target_compile_definitions(vantrel_wx INTERFACE ${wxWidgets_DEFINITIONS})
   target_compile_options(vantrel_wx INTERFACE ${wxWidgets_CXX_FLAGS})
   target_link_libraries(vantrel_wx INTERFACE ${wxWidgets_LIBRARIES})
+endif()
 
+if(VANTREL_WINDOWS)
   # Apart from the rest of the toolkit: only the 3D view draws with OpenGL.
   find_package(wxWidgets 3.2 REQUIRED COMPONENTS gl core base)
   find_package(OpenGL REQUIRED COMPONENTS OpenGL)

@@ -9,8 +9,8 @@
 namespace vantrel {
 namespace {
 
-struct Controls {
-  explicit Controls(wxDialog& dialog)
+struct ExportControls {
+  explicit ExportControls(wxDialog& dialog)
       : folder(*FindControls<wxTextCtrl>(dialog).at(0)),
         name(*FindControls<wxTextCtrl>(dialog).at(1)),
         list(*FindControl<wxListBox>(dialog)),
@@ -33,7 +33,7 @@ class Export : public FrameTest {
   ModalScript::Action choose(int row, const std::string& name = {},
                              const std::string& folder = {}) {
     return [=](wxDialog& dialog) {
-      Controls controls(dialog);
+      ExportControls controls(dialog);
       ClickRow(controls.list, row);
       if (!name.empty()) controls.name.SetValue(wxString::FromUTF8(name));
       if (!folder.empty()) controls.folder.SetValue(wxString::FromUTF8(folder));
@@ -91,7 +91,7 @@ TEST_F(Export, StartsWithTheOpenLayoutSelectedWhateverItsCase) {
   put("Alpha.vtl");
   put("Yard.vtl");
   ExportDialog dialog(&frame(), LayoutFiles(folders_.store), folders_.downloads, "yARD");
-  Controls controls(dialog);
+  ExportControls controls(dialog);
   EXPECT_EQ(controls.list.GetSelection(), 1);
   EXPECT_EQ(controls.name.GetValue(), "Yard");
   EXPECT_TRUE(controls.accept.IsEnabled());
@@ -105,7 +105,7 @@ TEST_F(Export, TheFrameHandsItsLayoutNameOn) {
   frame().LoadIntoFrame(inStore("Yard.vtl"));
   ModalScript script;
   script.dialog("Export Layout", wxID_CANCEL, [](wxDialog& dialog) {
-    EXPECT_EQ(Controls(dialog).name.GetValue(), "Yard");
+    EXPECT_EQ(ExportControls(dialog).name.GetValue(), "Yard");
     EXPECT_TRUE(dialog.HasFlag(wxRESIZE_BORDER));
     EXPECT_EQ(dialog.GetSize(), wxSize(440, 480));
   });
@@ -115,7 +115,7 @@ TEST_F(Export, TheFrameHandsItsLayoutNameOn) {
 TEST_F(Export, StartsWithNothingSelectedForALayoutWithoutAName) {
   put("Alpha.vtl");
   ExportDialog dialog(&frame(), LayoutFiles(folders_.store), folders_.downloads, "");
-  Controls controls(dialog);
+  ExportControls controls(dialog);
   EXPECT_EQ(controls.list.GetSelection(), wxNOT_FOUND);
   EXPECT_FALSE(controls.accept.IsEnabled());
   controls.name.SetValue("x");
@@ -132,7 +132,8 @@ TEST_F(Export, StartsWithNothingSelectedForALayoutWithoutAName) {
 TEST_F(Export, ADoubleClickExports) {
   put("Alpha.vtl");
   ModalScript script;
-  script.shown("Export Layout", [](wxDialog& dialog) { DoubleClickRow(Controls(dialog).list, 0); });
+  script.shown("Export Layout",
+               [](wxDialog& dialog) { DoubleClickRow(ExportControls(dialog).list, 0); });
   script.box("Export", "Exported to:\n" + inDownloads("Alpha.vtl"), kInformationBox, wxID_OK);
   command(1901);
 }
@@ -140,7 +141,7 @@ TEST_F(Export, ADoubleClickExports) {
 TEST_F(Export, BrowseChoosesTheDestination) {
   put("Alpha.vtl");
   ExportDialog dialog(&frame(), LayoutFiles(folders_.store), folders_.downloads, "");
-  Controls controls(dialog);
+  ExportControls controls(dialog);
   ModalScript script;
   script.shown("", ChooseFolder("Choose destination folder", folders_.home));
   wxCommandEvent click(wxEVT_BUTTON, controls.browse.GetId());

@@ -14,7 +14,6 @@
 namespace vantrel {
 namespace {
 
-constexpr int kNotch = 120;
 
 class AltRotating : public EditingTest {
  protected:

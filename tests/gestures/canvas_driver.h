@@ -18,6 +18,8 @@
 
 namespace vantrel {
 
+inline constexpr int kNotch = 120;  // of a wheel
+
 class CanvasTest : public testing::Test {
  protected:
   Layout layout;

@@ -2,6 +2,7 @@
 // nothing stays captured, and the next click works.
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <tuple>
 
@@ -25,11 +26,17 @@ struct GestureCase {
   void (InterruptedGesture::*begin)();
   bool (*isActive)(const CanvasState&);
 };
+void PrintTo(const GestureCase& gesture, std::ostream* out) {
+  *out << gesture.name;
+}
 
 struct Interruption {
   const char* name;
   void (InterruptedGesture::*act)();
 };
+void PrintTo(const Interruption& interruption, std::ostream* out) {
+  *out << interruption.name;
+}
 
 class InterruptedGesture
     : public EditingTest,

@@ -8,7 +8,6 @@
 namespace vantrel {
 namespace {
 
-constexpr int kNotch = 120;
 
 class PaletteDragging : public PaletteDragTest {};
 

@@ -7,7 +7,6 @@
 namespace vantrel {
 namespace {
 
-constexpr int kNotch = 120;
 
 class PieceDrop : public PaletteDragTest {};
 

@@ -11,7 +11,6 @@
 namespace vantrel {
 namespace {
 
-constexpr int kNotch = 120;
 
 class SceneryDragging : public CanvasTest {
  protected:

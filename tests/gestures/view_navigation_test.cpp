@@ -14,7 +14,6 @@ namespace {
 
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr int kNotch = 120;
 
 class ViewNavigation : public CanvasTest {
  protected:

@@ -23,12 +23,6 @@ inline Layout PlanWithThreeLevels() {
   return layout;
 }
 
-inline std::int32_t LaySelected(Layout& layout, std::string_view part, const Pose& pose = {}) {
-  const std::int32_t id = LayPiece(layout, part, pose);
-  layout.pieces.back().sel = true;
-  return id;
-}
-
 // Writes both slots as they are, whatever the poses.
 inline void Join(Layout& layout, std::int32_t a, std::int32_t slotA, std::int32_t b,
                  std::int32_t slotB) {

@@ -37,7 +37,7 @@ ReadBlock Read(std::string_view text) {
 }
 
 // "reads", or the line and the text of the problem.
-std::string ProblemOf(std::string_view text) {
+std::string BlockProblemOf(std::string_view text) {
   try {
     Read(text);
   } catch (const MalformedFile& malformed) {
@@ -48,7 +48,7 @@ std::string ProblemOf(std::string_view text) {
 }
 
 // What the writer puts into a file, read back as text.
-std::string Saved(const Layout& layout, const std::string& name = "Yard") {
+std::string SavedBlock(const Layout& layout, const std::string& name = "Yard") {
   const TempFolder folder;
   const std::string path = folder.path("block.xml");
   EXPECT_EQ(SaveBlockFile(layout, path, name), "");
@@ -64,7 +64,7 @@ Layout AllSelected() {
 }
 
 TEST(SaveBlock, WritesTheSelectionInDocumentOrderOneDepthLessThanALayout) {
-  EXPECT_EQ(Saved(AllSelected()), R"(<?xml version="1.0" encoding="UTF-8"?>
+  EXPECT_EQ(SavedBlock(AllSelected()), R"(<?xml version="1.0" encoding="UTF-8"?>
 <block name="Yard" version="1">
   <piece id="1" cat="24188" x="100.0000" y="50.0000" heading="0.0000" z="0.0000" grade="0.0000" level="1" sel="1">
     <joint conn="1" target="2" tconn="0"/>
@@ -83,7 +83,7 @@ TEST(SaveBlock, WritesTheSelectionInDocumentOrderOneDepthLessThanALayout) {
 
 // The rich plan has its second piece and its second item selected.
 TEST(SaveBlock, LeavesOutWhatIsNotSelectedButKeepsTheJointsToIt) {
-  EXPECT_EQ(Saved(RichLayout(), "A & \"B\""), R"(<?xml version="1.0" encoding="UTF-8"?>
+  EXPECT_EQ(SavedBlock(RichLayout(), "A & \"B\""), R"(<?xml version="1.0" encoding="UTF-8"?>
 <block name="A &amp; &quot;B&quot;" version="1">
   <piece id="2" cat="24188" x="288.0000" y="-0.5000" heading="359.9877" z="30.1250" grade="2.5000" rev="1" free="1" level="7" helix="12" sel="1" color="66051">
     <joint conn="0" target="1" tconn="1"/>
@@ -99,7 +99,7 @@ TEST(SaveBlock, LeavesOutWhatIsNotSelectedButKeepsTheJointsToIt) {
 TEST(SaveBlock, ASelectionOfSceneryOnlyGivesAFileWithNoPieceLine) {
   Layout layout = RichLayout();
   layout.pieces[1].sel = false;
-  EXPECT_EQ(Saved(layout), R"(<?xml version="1.0" encoding="UTF-8"?>
+  EXPECT_EQ(SavedBlock(layout), R"(<?xml version="1.0" encoding="UTF-8"?>
 <block name="Yard" version="1">
   <scenery>
     <sceneryitem id="4" item="portal" x="3.0000" y="4.0000" heading="90.0000" scalex="1.5000" scaley="0.7500" level="7" sel="0"/>
@@ -111,7 +111,7 @@ TEST(SaveBlock, ASelectionOfSceneryOnlyGivesAFileWithNoPieceLine) {
 TEST(SaveBlock, ASelectionOfTrackOnlyGivesAFileWithNoScenery) {
   Layout layout = AllSelected();
   for (SceneryItem& item : layout.scenery) item.sel = false;
-  EXPECT_EQ(Saved(layout).find("scenery"), std::string::npos);
+  EXPECT_EQ(SavedBlock(layout).find("scenery"), std::string::npos);
 }
 
 TEST(SaveBlock, ALayoutWithNothingSelectedIsRefusedAndCreatesNoFile) {
@@ -139,7 +139,7 @@ TEST(SaveBlock, TheSecondOfTwoSavesUnderOneNameReplacesTheFirstSilently) {
   Layout layout = RichLayout();
   layout.pieces[1].sel = false;
   EXPECT_EQ(SaveBlockFile(layout, path, "b"), "");
-  EXPECT_EQ(ReadBytes(path), Saved(layout, "b"));
+  EXPECT_EQ(ReadBytes(path), SavedBlock(layout, "b"));
 }
 
 TEST(SaveBlock, AFolderThatIsMissingCannotBeOpened) {
@@ -156,13 +156,13 @@ TEST(SaveBlock, AFullDiskIsReported) {
 TEST(SaveBlock, WritesPointsUnderALocaleWithACommaAndReadsThem) {
   const testing::CommaLocale comma;
   ASSERT_TRUE(comma.active());
-  const std::string text = Saved(RichLayout());
+  const std::string text = SavedBlock(RichLayout());
   EXPECT_NE(text.find("y=\"-0.5000\""), std::string::npos);
   EXPECT_DOUBLE_EQ(Read(text).pieces[0].y, -0.5);
 }
 
 TEST(ReadBlockFile, APieceComesBackFlatUncolouredUnreversedAndOutsideAnyHelix) {
-  const ReadBlock block = Read(Saved(AllSelected()));
+  const ReadBlock block = Read(SavedBlock(AllSelected()));
   Piece first{.id = 1, .cat = "24188", .x = 100, .y = 50};
   first.joints = {{}, {.target = 2, .tconn = 0}};
   // Selected, z 30.125, grade 2.5, reversed, free, in helix 12 and coloured in the file.
@@ -190,7 +190,7 @@ TEST(ReadBlockFile, SceneryComesBackWholeAndUnselected) {
 }
 
 TEST(ReadBlockFile, ItsNameComesBackWithItsEntities) {
-  EXPECT_EQ(Read(Saved(RichLayout(), "A & B")).name, "A &amp; B");
+  EXPECT_EQ(Read(SavedBlock(RichLayout(), "A & B")).name, "A &amp; B");
 }
 
 TEST(ReadBlockFile, WhatIsWrittenButNotReadMayBeAnything) {
@@ -264,21 +264,23 @@ TEST(ReadBlockFile, AFileIsReadOverWhatTheListsHeld) {
 }
 
 TEST(ReadBlockFile, AMissingOrBadNumberIsNamedWithItsLine) {
-  EXPECT_EQ(ProblemOf("<block name=\"a\">\n<piece cat=\"a\" x=\"1\" y=\"1\" heading=\"1\">\n"),
+  EXPECT_EQ(BlockProblemOf("<block name=\"a\">\n<piece cat=\"a\" x=\"1\" y=\"1\" heading=\"1\">\n"),
             "2: invalid stoi argument");
-  EXPECT_EQ(ProblemOf("<piece id=\"1\" cat=\"a\" y=\"1\" heading=\"1\">\n"),
+  EXPECT_EQ(BlockProblemOf("<piece id=\"1\" cat=\"a\" y=\"1\" heading=\"1\">\n"),
             "1: invalid stod argument");
-  EXPECT_EQ(ProblemOf("<piece id=\"1\" cat=\"a\" x=\"1e999\" y=\"1\" heading=\"1\">\n"),
+  EXPECT_EQ(BlockProblemOf("<piece id=\"1\" cat=\"a\" x=\"1e999\" y=\"1\" heading=\"1\">\n"),
             "1: stod argument out of range");
-  EXPECT_EQ(ProblemOf("<piece id=\"1\" cat=\"a\" x=\"1\" y=\"1\" heading=\"1\" level=\"x\">\n"),
-            "1: invalid stoi argument");
+  EXPECT_EQ(
+      BlockProblemOf("<piece id=\"1\" cat=\"a\" x=\"1\" y=\"1\" heading=\"1\" level=\"x\">\n"),
+      "1: invalid stoi argument");
   const std::string piece = "<piece id=\"1\" cat=\"a\" x=\"1\" y=\"1\" heading=\"1\">\n";
-  EXPECT_EQ(ProblemOf(piece + "<joint conn=\"0\" target=\"1\"/>\n"), "2: invalid stoi argument");
-  EXPECT_EQ(ProblemOf(piece + "<joint conn=\"2000000000\" target=\"1\" tconn=\"0\"/>\n"),
+  EXPECT_EQ(BlockProblemOf(piece + "<joint conn=\"0\" target=\"1\"/>\n"),
+            "2: invalid stoi argument");
+  EXPECT_EQ(BlockProblemOf(piece + "<joint conn=\"2000000000\" target=\"1\" tconn=\"0\"/>\n"),
             "2: stoi argument out of range");
-  EXPECT_EQ(ProblemOf(piece + "<joint conn=\"-1\" target=\"1\" tconn=\"0\"/>\n"),
+  EXPECT_EQ(BlockProblemOf(piece + "<joint conn=\"-1\" target=\"1\" tconn=\"0\"/>\n"),
             "2: stoi argument out of range");
-  EXPECT_EQ(ProblemOf("<scenery>\n<sceneryitem id=\"1\" item=\"a\" x=\"1\" y=\"1\"/>\n"),
+  EXPECT_EQ(BlockProblemOf("<scenery>\n<sceneryitem id=\"1\" item=\"a\" x=\"1\" y=\"1\"/>\n"),
             "2: invalid stod argument");
 }
 
@@ -286,7 +288,7 @@ void Judge(const std::string& text, int& read, int& refused) {
   static const std::set<std::string> problems = {"invalid stoi argument", "invalid stod argument",
                                                  "stoi argument out of range",
                                                  "stod argument out of range"};
-  const std::string problem = ProblemOf(text);
+  const std::string problem = BlockProblemOf(text);
   if (problem == "reads") {
     ++read;
     return;
@@ -296,7 +298,7 @@ void Judge(const std::string& text, int& read, int& refused) {
 }
 
 TEST(BrokenBlock, CutOffAtAnyByteItReadsOrIsRefused) {
-  const std::string file = Saved(AllSelected());
+  const std::string file = SavedBlock(AllSelected());
   int read = 0;
   int refused = 0;
   for (std::size_t size = 0; size < file.size(); ++size) Judge(file.substr(0, size), read, refused);
@@ -305,7 +307,7 @@ TEST(BrokenBlock, CutOffAtAnyByteItReadsOrIsRefused) {
 }
 
 TEST(BrokenBlock, WithBytesFlippedItReadsOrIsRefused) {
-  const std::string file = Saved(AllSelected());
+  const std::string file = SavedBlock(AllSelected());
   std::mt19937 random(1203);
   int read = 0;
   int refused = 0;
@@ -320,7 +322,7 @@ TEST(BrokenBlock, WithBytesFlippedItReadsOrIsRefused) {
 }
 
 TEST(BrokenBlock, WithAnyValueReplacedItReadsOrIsRefused) {
-  const std::string file = Saved(AllSelected());
+  const std::string file = SavedBlock(AllSelected());
   const std::vector<std::string> values = {"1e308",      "nan",         "-inf", "99999999999",
                                            "2147483647", "-2147483648", "",     std::string(1, 0),
                                            "abc",        "1e-320",      "-1"};

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,9 @@ struct LineCase {
   std::vector<std::string> optionalInts;
   std::vector<std::string> optionalReals;
 };
+void PrintTo(const LineCase& example, std::ostream* out) {
+  *out << example.line;
+}
 
 const std::vector<LineCase>& LineCases() {
   static const std::vector<LineCase> cases = {

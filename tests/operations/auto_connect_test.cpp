@@ -9,19 +9,6 @@
 namespace vantrel {
 namespace {
 
-std::int32_t LaySelected(Layout& layout, std::string_view part, const Pose& pose) {
-  const std::int32_t id = LayPiece(layout, part, pose);
-  PieceOf(layout, id).sel = true;
-  return id;
-}
-
-std::vector<std::int32_t> SelectedIds(const Layout& layout) {
-  std::vector<std::int32_t> ids;
-  for (const Piece& piece : layout.pieces)
-    if (piece.sel) ids.push_back(piece.id);
-  return ids;
-}
-
 TEST(AutoConnect, LaysALineOfPiecesWhenRepeated) {
   Layout layout;
   const std::int32_t first = LaySelected(layout, "24188", {0.0, 0.0, 90.0});

@@ -3,12 +3,32 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <ostream>
 #include <string>
 #include <vector>
 
 #include "canvas/operations/fill_search.h"
 
 namespace vantrel {
+
+static const char* NameOf(TrackSystem system) {
+  switch (system) {
+    case TrackSystem::MarklinC:
+      return "MarklinC";
+    case TrackSystem::MarklinK:
+      return "MarklinK";
+    case TrackSystem::MarklinZ:
+      return "MarklinZ";
+    case TrackSystem::TrixC:
+      return "TrixC";
+  }
+  return "Unknown";
+}
+// In the namespace of the type: the printer of parameters looks for it there only.
+static void PrintTo(TrackSystem system, std::ostream* out) {
+  *out << NameOf(system);
+}
+
 namespace {
 
 using Parts = std::vector<std::string>;
@@ -241,7 +261,8 @@ TEST_P(SearchAgainstAllRows, FindsTheSameForHundredsOfGaps) {
   EXPECT_GT(filled, 100);
 }
 
-INSTANTIATE_TEST_SUITE_P(AllSystems, SearchAgainstAllRows, testing::ValuesIn(kSystems));
+INSTANTIATE_TEST_SUITE_P(AllSystems, SearchAgainstAllRows, testing::ValuesIn(kSystems),
+                         [](const auto& system) { return std::string(NameOf(system.param)); });
 
 }  // namespace
 }  // namespace vantrel

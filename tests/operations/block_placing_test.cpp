@@ -14,10 +14,6 @@
 namespace vantrel {
 namespace {
 
-constexpr double kInf = std::numeric_limits<double>::infinity();
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr std::int32_t kLargestId = std::numeric_limits<std::int32_t>::max();
-
 Piece Straight(std::int32_t id, double x, double y) {
   return {.id = id, .cat = "24188", .x = x, .y = y};
 }
@@ -44,12 +40,6 @@ Layout PlanWithOnePiece() {
   layout.pieces[0].sel = true;
   layout.nextId = 6;
   return layout;
-}
-
-std::vector<std::int32_t> LevelIds(const Layout& layout) {
-  std::vector<std::int32_t> ids;
-  for (const Level& level : layout.levels) ids.push_back(level.id);
-  return ids;
 }
 
 TEST(PlaceBlock, ABlockWhosePiecesLieAt300By200OrMoreLandsWithItsExtremeAtTheWorldOrigin) {
@@ -233,7 +223,7 @@ TEST(PlaceBlock, ABlockBeyondAThousandKilometresInYAloneComesThatMuchNearer) {
 }
 
 TEST(PlaceBlock, APlaceThatIsNoNumberDoesNotTakeTheOthersAlong) {
-  for (const double nowhere : {kNan, kInf, -kInf}) {
+  for (const double nowhere : {kNaN, kInf, -kInf}) {
     Layout layout;
     Block block;
     block.pieces = {Straight(1, nowhere, nowhere), Straight(2, 310, 20)};

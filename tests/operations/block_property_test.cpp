@@ -15,8 +15,6 @@
 namespace vantrel {
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-
 // The search as told: one findSnap for each selected piece, the shortest kept, the first of equals.
 // A joined connector of the moving piece is taken out by setting it nowhere.
 BlockSnap PlainBlockSnap(const Layout& layout, int& ties) {
@@ -94,9 +92,9 @@ std::vector<std::vector<Joint>> AllJoints(const Layout& layout) {
 }
 
 // Draws small plans in which ends crowd about a few spots.
-class PlanDealer {
+class BlockPlanDealer {
  public:
-  explicit PlanDealer(unsigned seed) : random_(seed) {
+  explicit BlockPlanDealer(unsigned seed) : random_(seed) {
     static constexpr std::array<double, 8> origins = {0.0, 0.0, 0.0, 0.0, -32.0, 1e6, -3e9, 1e16};
     origin_ = origins[below(origins.size())];
     onLattice_ = below(2) == 0;
@@ -202,7 +200,7 @@ TEST(BlockSnap, EqualsOneSearchPerSelectedPieceOverThousandsOfPlans) {
   int farOut = 0;
   for (unsigned seed = 0; seed < 12000; ++seed) {
     SCOPED_TRACE(seed);
-    PlanDealer dealer(seed);
+    BlockPlanDealer dealer(seed);
     const Layout layout = dealer.plan(dealer.below(2) == 0);
     int ties = 0;
     const BlockSnap expected = PlainBlockSnap(layout, ties);
@@ -231,7 +229,7 @@ TEST(ClosingJoints, EqualThePlainLoopsOverThousandsOfPlans) {
   Closings total;
   for (unsigned seed = 0; seed < 4000; ++seed) {
     SCOPED_TRACE(seed);
-    PlanDealer dealer(seed);
+    BlockPlanDealer dealer(seed);
     const bool damage = dealer.below(2) == 0;
     Layout layout = dealer.plan(damage);
     Layout expected = layout;
@@ -252,7 +250,7 @@ TEST(MovingABlock, NeverCrashesAndKeepsSoundPlansSound) {
   int joins = 0;
   for (unsigned seed = 0; seed < 3000; ++seed) {
     SCOPED_TRACE(seed);
-    PlanDealer dealer(seed);
+    BlockPlanDealer dealer(seed);
     const bool damage = dealer.below(3) == 0;
     Layout layout = dealer.plan(damage);
     const MoveStart start = takeMoveStart(layout);

@@ -12,12 +12,6 @@
 namespace vantrel {
 namespace {
 
-std::int32_t LaySelected(Layout& layout, std::string_view part, const Pose& pose) {
-  const std::int32_t id = LayPiece(layout, part, pose);
-  PieceOf(layout, id).sel = true;
-  return id;
-}
-
 TEST(BlockSnap, FindsWhatASinglePieceWouldFind) {
   Layout layout;
   const std::int32_t target = LayPiece(layout, "24188", {0.0, 0.0, 0.0});
@@ -186,7 +180,6 @@ TEST(BlockSnap, JoinsOnlyConnectorsOfOneSystem) {
 
 TEST(BlockSnap, SkipsUnknownPartsAndWildNumbers) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
-  constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
   Layout layout;
   for (const double wild : {kNaN, kInfinity, -kInfinity, 1e300, -1e300, 9e15, -9e18}) {
     LayPiece(layout, "24188", {wild, 0.0, 0.0});

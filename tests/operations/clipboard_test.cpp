@@ -14,9 +14,7 @@
 namespace vantrel {
 namespace {
 
-constexpr std::int32_t kLargestId = std::numeric_limits<std::int32_t>::max();
-
-std::vector<std::int32_t> LayRow(Layout& layout, int count) {
+std::vector<std::int32_t> LayStraights(Layout& layout, int count) {
   std::vector<std::int32_t> ids;
   for (int i = 0; i < count; ++i) {
     ids.push_back(LayPiece(layout, "24188", {188.3 * i, 0.0, 0.0}));
@@ -32,7 +30,7 @@ Clipboard CopyOf(Layout& layout, std::initializer_list<std::int32_t> pieces) {
   return clipboard;
 }
 
-std::int32_t AddShape(Layout& layout, std::vector<Vec2> vertices) {
+std::int32_t OutlineShape(Layout& layout, std::vector<Vec2> vertices) {
   Shape shape;
   shape.id = TakeId(layout);
   shape.vertices = std::move(vertices);
@@ -42,7 +40,7 @@ std::int32_t AddShape(Layout& layout, std::vector<Vec2> vertices) {
 
 TEST(CopySelection, TakesTheSelectedPiecesAndSceneryAndLeavesThePlanAlone) {
   Layout layout;
-  const auto row = LayRow(layout, 3);
+  const auto row = LayStraights(layout, 3);
   layout.scenery.push_back({.id = TakeId(layout), .item = "a", .sel = true});
   layout.scenery.push_back({.id = TakeId(layout), .item = "b"});
   const Clipboard clipboard = CopyOf(layout, {row[0], row[2]});
@@ -57,9 +55,9 @@ TEST(CopySelection, TakesTheSelectedPiecesAndSceneryAndLeavesThePlanAlone) {
 
 TEST(CopySelection, KeepsTheClipboardWhenNoPieceAndNoSceneryIsSelected) {
   Layout layout;
-  const auto row = LayRow(layout, 1);
+  const auto row = LayStraights(layout, 1);
   Clipboard clipboard = CopyOf(layout, {row[0]});
-  copyShape(layout, AddShape(layout, {{0.0, 0.0}}), clipboard);
+  copyShape(layout, OutlineShape(layout, {{0.0, 0.0}}), clipboard);
   ClearSelection(layout);
   layout.labels.push_back({.id = TakeId(layout), .sel = true});
   layout.shapes[0].sel = true;
@@ -70,9 +68,9 @@ TEST(CopySelection, KeepsTheClipboardWhenNoPieceAndNoSceneryIsSelected) {
 
 TEST(CopySelection, DropsTheShapeOfAnEarlierCopy) {
   Layout layout;
-  const auto row = LayRow(layout, 1);
+  const auto row = LayStraights(layout, 1);
   Clipboard clipboard;
-  copyShape(layout, AddShape(layout, {{0.0, 0.0}}), clipboard);
+  copyShape(layout, OutlineShape(layout, {{0.0, 0.0}}), clipboard);
   ASSERT_TRUE(clipboard.hasShape);
   PieceOf(layout, row[0]).sel = true;
   copySelection(layout, clipboard);
@@ -81,7 +79,7 @@ TEST(CopySelection, DropsTheShapeOfAnEarlierCopy) {
 
 TEST(CopySelection, ReplacesPiecesByASelectionOfSceneryAlone) {
   Layout layout;
-  const auto row = LayRow(layout, 1);
+  const auto row = LayStraights(layout, 1);
   Clipboard clipboard = CopyOf(layout, {row[0]});
   ClearSelection(layout);
   layout.scenery.push_back({.id = TakeId(layout), .sel = true});
@@ -92,9 +90,9 @@ TEST(CopySelection, ReplacesPiecesByASelectionOfSceneryAlone) {
 
 TEST(CopyShape, LeavesPiecesAndSceneryInTheClipboardSoThatAPasteBringsBoth) {
   Layout layout;
-  const auto row = LayRow(layout, 1);
+  const auto row = LayStraights(layout, 1);
   Clipboard clipboard = CopyOf(layout, {row[0]});
-  copyShape(layout, AddShape(layout, {{0.0, 0.0}, {10.0, 0.0}, {10.0, 10.0}}), clipboard);
+  copyShape(layout, OutlineShape(layout, {{0.0, 0.0}, {10.0, 0.0}, {10.0, 10.0}}), clipboard);
   ASSERT_TRUE(pasteClipboard(layout, clipboard, {0.0, 0.0}));
   EXPECT_EQ(layout.pieces.size(), 2u);
   EXPECT_EQ(layout.shapes.size(), 2u);
@@ -102,7 +100,7 @@ TEST(CopyShape, LeavesPiecesAndSceneryInTheClipboardSoThatAPasteBringsBoth) {
 
 TEST(CopyShape, DoesNothingForAnUnknownId) {
   Layout layout;
-  const std::int32_t id = AddShape(layout, {{1.0, 2.0}});
+  const std::int32_t id = OutlineShape(layout, {{1.0, 2.0}});
   Clipboard clipboard;
   copyShape(layout, 999, clipboard);
   EXPECT_FALSE(clipboard.hasShape);
@@ -114,7 +112,7 @@ TEST(CopyShape, DoesNothingForAnUnknownId) {
 
 TEST(PasteClipboard, DoesNothingWhenItIsEmpty) {
   Layout layout;
-  const auto row = LayRow(layout, 1);
+  const auto row = LayStraights(layout, 1);
   PieceOf(layout, row[0]).sel = true;
   EXPECT_FALSE(pasteClipboard(layout, {}, {5.0, 5.0}));
   EXPECT_TRUE(layout.undoHistory.empty());
@@ -127,7 +125,7 @@ TEST(PasteClipboard, SetsTheMeanOfAllPositionsAndVerticesOnThePoint) {
   const std::int32_t b = LayPiece(layout, "24188", {100.0, 0.0, 0.0});
   layout.scenery.push_back(
       {.id = TakeId(layout), .x = 50.0, .y = 90.0, .heading = 45.0, .sel = true});
-  const std::int32_t shape = AddShape(layout, {{-50.0, 30.0}, {50.0, 30.0}, {150.0, 30.0}});
+  const std::int32_t shape = OutlineShape(layout, {{-50.0, 30.0}, {50.0, 30.0}, {150.0, 30.0}});
   Clipboard clipboard = CopyOf(layout, {a, b});
   copyShape(layout, shape, clipboard);
   // x: (0 + 100 + 50 - 50 + 50 + 150) / 6 = 50; y: (0 + 0 + 90 + 30 + 30 + 30) / 6 = 30
@@ -152,7 +150,7 @@ TEST(PasteClipboard, CountsAPieceByItsPositionAndNotByItsMiddle) {
 
 TEST(PasteClipboard, KeepsTheTwoInnerJointsOfThreeJoinedPiecesAndNoOthers) {
   Layout layout;
-  const auto row = LayRow(layout, 5);
+  const auto row = LayStraights(layout, 5);
   ASSERT_TRUE(pasteClipboard(layout, CopyOf(layout, {row[1], row[2], row[3]}), {0.0, 900.0}));
   ASSERT_EQ(layout.pieces.size(), 8u);
   const std::int32_t first = layout.pieces[5].id;
@@ -168,9 +166,9 @@ TEST(PasteClipboard, KeepsTheTwoInnerJointsOfThreeJoinedPiecesAndNoOthers) {
 
 TEST(PasteClipboard, NumbersPiecesThenSceneryThenTheShape) {
   Layout layout;
-  const auto row = LayRow(layout, 2);
+  const auto row = LayStraights(layout, 2);
   layout.scenery.push_back({.id = TakeId(layout), .sel = true});
-  const std::int32_t shape = AddShape(layout, {{0.0, 0.0}});
+  const std::int32_t shape = OutlineShape(layout, {{0.0, 0.0}});
   Clipboard clipboard = CopyOf(layout, {row[0], row[1]});
   copyShape(layout, shape, clipboard);
   layout.nextId = 100;
@@ -213,7 +211,7 @@ TEST(PasteClipboard, KeepsLevelScaleAndHeadingOfAnItemAndTheFaceOfAShape) {
                             .level = 4});
   Clipboard clipboard;
   copySelection(layout, clipboard);
-  const std::int32_t shape = AddShape(layout, {{0.0, 0.0}});
+  const std::int32_t shape = OutlineShape(layout, {{0.0, 0.0}});
   layout.shapes[0].height = 30.0;
   layout.shapes[0].label = "Quay";
   layout.shapes[0].level = 2;
@@ -230,9 +228,9 @@ TEST(PasteClipboard, KeepsLevelScaleAndHeadingOfAnItemAndTheFaceOfAShape) {
 
 TEST(PasteClipboard, SelectsTheNewPiecesAndSceneryAloneAndNoShape) {
   Layout layout;
-  const auto row = LayRow(layout, 2);
+  const auto row = LayStraights(layout, 2);
   layout.scenery.push_back({.id = TakeId(layout), .sel = true});
-  const std::int32_t shape = AddShape(layout, {{0.0, 0.0}});
+  const std::int32_t shape = OutlineShape(layout, {{0.0, 0.0}});
   layout.shapes[0].sel = true;
   layout.labels.push_back({.id = TakeId(layout), .sel = true});
   Clipboard clipboard = CopyOf(layout, {row[0], row[1]});
@@ -268,7 +266,7 @@ TEST(PasteClipboard, OfAHelixStubYieldsAPieceOfTheOldHelix) {
 
 TEST(PasteClipboard, CopiesNoTunnel) {
   Layout layout;
-  const auto row = LayRow(layout, 1);
+  const auto row = LayStraights(layout, 1);
   layout.tunnels.push_back({.id = TakeId(layout), .anchorA = row[0], .covers = {row[0]}});
   pasteClipboard(layout, CopyOf(layout, {row[0]}), {});
   EXPECT_EQ(layout.tunnels.size(), 1u);
@@ -277,7 +275,7 @@ TEST(PasteClipboard, CopiesNoTunnel) {
 
 TEST(PasteClipboard, CanBeDoneManyTimesWithOneCopy) {
   Layout layout;
-  const auto row = LayRow(layout, 2);
+  const auto row = LayStraights(layout, 2);
   const Clipboard clipboard = CopyOf(layout, {row[0], row[1]});
   pasteClipboard(layout, clipboard, {0.0, 500.0});
   pasteClipboard(layout, clipboard, {0.0, 1000.0});
@@ -292,7 +290,7 @@ TEST(PasteClipboard, CanBeDoneManyTimesWithOneCopy) {
 TEST(PasteClipboard, WorksInAnotherPlanThanTheCopyCameFrom) {
   Layout source;
   source.nextId = 500;
-  const auto row = LayRow(source, 3);
+  const auto row = LayStraights(source, 3);
   const Clipboard clipboard = CopyOf(source, {row[0], row[1]});
   Layout layout;
   ASSERT_TRUE(pasteClipboard(layout, clipboard, {}));
@@ -304,7 +302,7 @@ TEST(PasteClipboard, WorksInAnotherPlanThanTheCopyCameFrom) {
 
 TEST(PasteClipboard, IsOneUndoStep) {
   Layout layout;
-  const auto row = LayRow(layout, 2);
+  const auto row = LayStraights(layout, 2);
   const Clipboard clipboard = CopyOf(layout, {row[0]});
   const std::vector<Piece> before = layout.pieces;
   pasteClipboard(layout, clipboard, {});
@@ -338,7 +336,7 @@ TEST(PasteClipboard, DoesNotJoinOpenEndsToAPieceWithTheIdOfNone) {
 
 TEST(PasteClipboard, JoinsToTheFirstOfTwoPiecesWithOneId) {
   Layout layout;
-  const auto row = LayRow(layout, 3);
+  const auto row = LayStraights(layout, 3);
   layout.pieces[2].id = row[0];
   for (Piece& piece : layout.pieces) piece.sel = true;
   Clipboard clipboard;
@@ -369,7 +367,7 @@ TEST(PasteClipboard, LeavesTheCopiesInPlaceWhenNoNumberSaysTheWay) {
 TEST(PasteClipboard, OfAShapeWithoutVerticesIsHarmless) {
   Layout layout;
   Clipboard clipboard;
-  copyShape(layout, AddShape(layout, {}), clipboard);
+  copyShape(layout, OutlineShape(layout, {}), clipboard);
   EXPECT_TRUE(pasteClipboard(layout, clipboard, {10.0, 10.0}));
   ASSERT_EQ(layout.shapes.size(), 2u);
   EXPECT_TRUE(layout.shapes[1].vertices.empty());
@@ -377,9 +375,9 @@ TEST(PasteClipboard, OfAShapeWithoutVerticesIsHarmless) {
 
 TEST(PasteClipboard, FindsFreeIdsForAllWhenTheCounterIsAtItsEnd) {
   Layout layout;
-  const auto row = LayRow(layout, 4);
+  const auto row = LayStraights(layout, 4);
   layout.scenery.push_back({.id = TakeId(layout), .sel = true});
-  const std::int32_t shape = AddShape(layout, {{0.0, 0.0}});
+  const std::int32_t shape = OutlineShape(layout, {{0.0, 0.0}});
   Clipboard clipboard = CopyOf(layout, {row[0], row[1], row[2], row[3]});
   copyShape(layout, shape, clipboard);
   layout.nextId = kLargestId - 2;

@@ -10,12 +10,6 @@
 namespace vantrel {
 namespace {
 
-std::int32_t LaySelected(Layout& layout, std::string_view part, const Pose& pose) {
-  const std::int32_t id = LayPiece(layout, part, pose);
-  PieceOf(layout, id).sel = true;
-  return id;
-}
-
 TEST(ClosingJoints, JoinOpenEndsLessThanFourMillimetresApart) {
   // The spoke is 57.5 mm long.
   for (const double gap : {0.0, 3.99, 4.0, 4.01}) {
@@ -122,7 +116,6 @@ TEST(ClosingJoints, OpenWhatADamagedPlanNamesOnOneSideOnly) {
 
 TEST(ClosingJoints, SkipUnknownPartsAndWildNumbers) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
-  constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
   Layout layout;
   for (const double wild : {kNaN, kInfinity, -kInfinity, 1e300, -1e300}) {
     LayPiece(layout, "24188", {wild, 0.0, 0.0});

@@ -11,9 +11,6 @@
 namespace vantrel {
 namespace {
 
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInf = std::numeric_limits<double>::infinity();
-
 // A pixel is a millimetre; two pixels are one.
 constexpr ViewTransform kPlain{.scale = 1.0, .offsetX = 0.0, .offsetY = 0.0};
 constexpr ViewTransform kDouble{.scale = 2.0, .offsetX = 0.0, .offsetY = 0.0};
@@ -309,7 +306,7 @@ TEST(SingleSelectedScenery, IsNoneBesideASecondItemAPieceOrALabel) {
 }
 
 TEST(AnnotationHits, SurviveAnyNumbers) {
-  const double wild[] = {0.0, -1.0, 1e-300, 1e300, -1e300, kNan, kInf, -kInf};
+  const double wild[] = {0.0, -1.0, 1e-300, 1e300, -1e300, kNaN, kInf, -kInf};
   const int farthest = std::numeric_limits<int>::max();
   for (const double a : wild) {
     for (const double b : wild) {

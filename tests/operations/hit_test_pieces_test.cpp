@@ -9,11 +9,8 @@
 namespace vantrel {
 namespace {
 
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInf = std::numeric_limits<double>::infinity();
-
 // A pixel is a millimetre.
-constexpr ViewTransform kPlain{.scale = 1.0, .offsetX = 0.0, .offsetY = 0.0};
+constexpr ViewTransform kOnePixelPerMm{.scale = 1.0, .offsetX = 0.0, .offsetY = 0.0};
 
 void AddLevel(Layout& layout, std::int32_t id, double height, bool visible = true) {
   Level level;
@@ -62,7 +59,7 @@ TEST(HitTestPiece, TakesTheHigherDeckWhateverIsNearer) {
     if (upperFirst) upper = LayPieceOn(layout, "24188", {0.0, 100.0, 0.0}, 2);
     LayPieceOn(layout, "24188", {100.0, 50.0, 90.0}, 1);
     if (!upperFirst) upper = LayPieceOn(layout, "24188", {0.0, 100.0, 0.0}, 2);
-    EXPECT_EQ(hitTestPiece(layout, kPlain, {100, 100}), upper);
+    EXPECT_EQ(hitTestPiece(layout, kOnePixelPerMm, {100, 100}), upper);
   }
 }
 
@@ -74,7 +71,7 @@ TEST(HitTestPiece, TakesTheOriginNearerToThePointerOnOneDeck) {
     if (nearFirst) nearer = LayPiece(layout, "24188", {100.0, 50.0, 90.0});
     LayPiece(layout, "24188", {0.0, 100.0, 0.0});
     if (!nearFirst) nearer = LayPiece(layout, "24188", {100.0, 50.0, 90.0});
-    EXPECT_EQ(hitTestPiece(layout, kPlain, {100, 100}), nearer);
+    EXPECT_EQ(hitTestPiece(layout, kOnePixelPerMm, {100, 100}), nearer);
   }
 }
 
@@ -82,7 +79,7 @@ TEST(HitTestPiece, TakesTheLaterOfTwoThatLieAlike) {
   Layout layout;
   LayPiece(layout, "24188", {});
   const std::int32_t later = LayPiece(layout, "24188", {});
-  EXPECT_EQ(hitTestPiece(layout, kPlain, {50, 0}), later);
+  EXPECT_EQ(hitTestPiece(layout, kOnePixelPerMm, {50, 0}), later);
 }
 
 TEST(HitTestPiece, TakesDecksWithinAThousandthOfAMillimetreForOne) {
@@ -95,7 +92,7 @@ TEST(HitTestPiece, TakesDecksWithinAThousandthOfAMillimetreForOne) {
       if (upperFirst) upper = LayPieceOn(layout, "24188", {0.0, 100.0, 0.0}, 2);
       const std::int32_t nearer = LayPieceOn(layout, "24188", {100.0, 50.0, 90.0}, 1);
       if (!upperFirst) upper = LayPieceOn(layout, "24188", {0.0, 100.0, 0.0}, 2);
-      EXPECT_EQ(hitTestPiece(layout, kPlain, {100, 100}), gap > 0.001 ? upper : nearer);
+      EXPECT_EQ(hitTestPiece(layout, kOnePixelPerMm, {100, 100}), gap > 0.001 ? upper : nearer);
     }
   }
 }
@@ -125,9 +122,9 @@ TEST(HitTestPiece, PassesOverHiddenLevelsAndFindsWhatLiesBeneath) {
   AddLevel(layout, 2, 100.0, false);
   const std::int32_t below = LayPieceOn(layout, "24188", {}, 1);
   LayPieceOn(layout, "24188", {}, 2);
-  EXPECT_EQ(hitTestPiece(layout, kPlain, {50, 0}), below);
+  EXPECT_EQ(hitTestPiece(layout, kOnePixelPerMm, {50, 0}), below);
   layout.levels[0].visible = false;
-  EXPECT_EQ(hitTestPiece(layout, kPlain, {50, 0}), kNone);
+  EXPECT_EQ(hitTestPiece(layout, kOnePixelPerMm, {50, 0}), kNone);
 }
 
 TEST(HitTestPiece, CountsAPieceWithoutALevelAsVisibleAtHeight0) {
@@ -136,22 +133,22 @@ TEST(HitTestPiece, CountsAPieceWithoutALevelAsVisibleAtHeight0) {
   AddLevel(layout, 2, 50.0);
   const std::int32_t stray = LayPieceOn(layout, "24188", {}, 99);
   LayPieceOn(layout, "24188", {}, 1);
-  EXPECT_EQ(hitTestPiece(layout, kPlain, {50, 0}), stray);
+  EXPECT_EQ(hitTestPiece(layout, kOnePixelPerMm, {50, 0}), stray);
   const std::int32_t upper = LayPieceOn(layout, "24188", {}, 2);
-  EXPECT_EQ(hitTestPiece(layout, kPlain, {50, 0}), upper);
+  EXPECT_EQ(hitTestPiece(layout, kOnePixelPerMm, {50, 0}), upper);
 }
 
 TEST(HitTestPiece, CantHitAPartThatTheCatalogDoesntKnow) {
   Layout layout;
   LayPiece(layout, "no such part", {});
-  EXPECT_EQ(hitTestPiece(layout, kPlain, {0, 0}), kNone);
+  EXPECT_EQ(hitTestPiece(layout, kOnePixelPerMm, {0, 0}), kNone);
 }
 
 TEST(HitTestPiece, GivesNoneForAnEmptyPlanAndBesideEverything) {
   Layout layout;
-  EXPECT_EQ(hitTestPiece(layout, kPlain, {0, 0}), kNone);
+  EXPECT_EQ(hitTestPiece(layout, kOnePixelPerMm, {0, 0}), kNone);
   LayPiece(layout, "24188", {});
-  EXPECT_EQ(hitTestPiece(layout, kPlain, {50, 21}), kNone);
+  EXPECT_EQ(hitTestPiece(layout, kOnePixelPerMm, {50, 21}), kNone);
 }
 
 // The default kit has rings at 360 and 437.5 mm: 335 to 385 and 412.5 to 462.5.
@@ -159,12 +156,12 @@ TEST(HitTestHelix, FindsAHelixOnItsTwoRings) {
   Layout layout;
   AddHelix(layout, 7);
   for (const int d : {335, 360, 385, 413, 437, 462}) {
-    EXPECT_EQ(hitTestHelix(layout, kPlain, {500 + d, 500}), 7) << d;
-    EXPECT_EQ(hitTestHelix(layout, kPlain, {500, 500 - d}), 7) << d;
+    EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {500 + d, 500}), 7) << d;
+    EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {500, 500 - d}), 7) << d;
   }
   for (const int d : {0, 334, 386, 412, 463}) {
-    EXPECT_EQ(hitTestHelix(layout, kPlain, {500 + d, 500}), kNone) << d;
-    EXPECT_EQ(hitTestHelix(layout, kPlain, {500, 500 - d}), kNone) << d;
+    EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {500 + d, 500}), kNone) << d;
+    EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {500, 500 - d}), kNone) << d;
   }
 }
 
@@ -173,11 +170,11 @@ TEST(HitTestHelix, TakesTheRadiiFromTheKit) {
   Layout layout;
   AddHelix(layout, 7).variant = "proses_2_5_r4r5";
   for (const int d : {555, 604, 619, 668})
-    EXPECT_EQ(hitTestHelix(layout, kPlain, {500 + d, 500}), 7) << d;
+    EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {500 + d, 500}), 7) << d;
   for (const int d : {360, 554, 605, 618, 669})
-    EXPECT_EQ(hitTestHelix(layout, kPlain, {500 + d, 500}), kNone) << d;
+    EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {500 + d, 500}), kNone) << d;
   layout.helices[0].variant = "no such kit";
-  EXPECT_EQ(hitTestHelix(layout, kPlain, {860, 500}), 7);
+  EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {860, 500}), 7);
 }
 
 TEST(HitTestHelix, IsOnTheLevelOfItsFirstPiece) {
@@ -189,18 +186,18 @@ TEST(HitTestHelix, IsOnTheLevelOfItsFirstPiece) {
   layout.pieces.back().helix = 7;
   LayPieceOn(layout, "24188", {}, 2);
   layout.pieces.back().helix = 7;
-  EXPECT_EQ(hitTestHelix(layout, kPlain, {860, 500}), 7);
+  EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {860, 500}), 7);
   std::swap(layout.pieces[0], layout.pieces[1]);
-  EXPECT_EQ(hitTestHelix(layout, kPlain, {860, 500}), kNone);
+  EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {860, 500}), kNone);
 }
 
 TEST(HitTestHelix, IsOnLevel1WithoutAnyPiece) {
   Layout layout;
   AddLevel(layout, 1, 0.0, false);
   AddHelix(layout, 7);
-  EXPECT_EQ(hitTestHelix(layout, kPlain, {860, 500}), kNone);
+  EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {860, 500}), kNone);
   layout.levels[0].visible = true;
-  EXPECT_EQ(hitTestHelix(layout, kPlain, {860, 500}), 7);
+  EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {860, 500}), 7);
 }
 
 TEST(HitTestHelix, TakesTheHigherAndOfEqualsTheEarlier) {
@@ -214,23 +211,23 @@ TEST(HitTestHelix, TakesTheHigherAndOfEqualsTheEarlier) {
   layout.pieces[0].helix = 7;
   LayPieceOn(layout, "24188", {}, 2);
   layout.pieces[1].helix = 8;
-  EXPECT_EQ(hitTestHelix(layout, kPlain, {860, 500}), 7) << "0.001 mm is no difference";
+  EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {860, 500}), 7) << "0.001 mm is no difference";
   layout.levels[1].height = 10.1;
-  EXPECT_EQ(hitTestHelix(layout, kPlain, {860, 500}), 8);
+  EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {860, 500}), 8);
   // A level that doesn't exist counts as height 0: below 10, above -10.
   layout.pieces[1].level = 99;
-  EXPECT_EQ(hitTestHelix(layout, kPlain, {860, 500}), 7);
+  EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {860, 500}), 7);
   layout.pieces[0].level = 3;
-  EXPECT_EQ(hitTestHelix(layout, kPlain, {860, 500}), 8);
+  EXPECT_EQ(hitTestHelix(layout, kOnePixelPerMm, {860, 500}), 8);
 }
 
 TEST(HitTestPieceOrHelix, StandsForTheBottomStubOnARingWithoutAPiece) {
   Layout layout;
   AddHelix(layout, 7).bottomR1 = 41;
-  EXPECT_EQ(hitTestPieceOrHelix(layout, kPlain, {860, 500}), 41);
-  EXPECT_EQ(hitTestPieceOrHelix(layout, kPlain, {500, 500}), kNone);
+  EXPECT_EQ(hitTestPieceOrHelix(layout, kOnePixelPerMm, {860, 500}), 41);
+  EXPECT_EQ(hitTestPieceOrHelix(layout, kOnePixelPerMm, {500, 500}), kNone);
   const std::int32_t piece = LayPiece(layout, "24188", {850.0, 500.0, 0.0});
-  EXPECT_EQ(hitTestPieceOrHelix(layout, kPlain, {860, 500}), piece);
+  EXPECT_EQ(hitTestPieceOrHelix(layout, kOnePixelPerMm, {860, 500}), piece);
 }
 
 // A platform is 230 by 60 mm about its position: 115 + 3 and 30 + 3.
@@ -239,9 +236,9 @@ TEST(HitTestScenery, AllowsAnItem3MmAroundItsFootprint) {
   const std::int32_t id = SetScenery(layout, "platform", {500.0, 500.0, 0.0});
   for (const DevicePoint point :
        {DevicePoint{618, 500}, {382, 500}, {500, 533}, {500, 467}, {618, 533}})
-    EXPECT_EQ(hitTestScenery(layout, kPlain, point), id) << point.x << ", " << point.y;
+    EXPECT_EQ(hitTestScenery(layout, kOnePixelPerMm, point), id) << point.x << ", " << point.y;
   for (const DevicePoint point : {DevicePoint{619, 500}, {381, 500}, {500, 534}, {500, 466}})
-    EXPECT_EQ(hitTestScenery(layout, kPlain, point), kNone) << point.x << ", " << point.y;
+    EXPECT_EQ(hitTestScenery(layout, kOnePixelPerMm, point), kNone) << point.x << ", " << point.y;
 }
 
 TEST(HitTestScenery, TurnsAndScalesWithTheItem) {
@@ -250,11 +247,11 @@ TEST(HitTestScenery, TurnsAndScalesWithTheItem) {
   layout.scenery[0].scalex = 2.0;  // 230 + 3, along world y now
   layout.scenery[0].scaley = 0.5;  // 15 + 3, along world x
   // Not on the last millimetre: the cosine of 90 degrees is not quite 0.
-  EXPECT_EQ(hitTestScenery(layout, kPlain, {517, 732}), id);
-  EXPECT_EQ(hitTestScenery(layout, kPlain, {519, 500}), kNone);
-  EXPECT_EQ(hitTestScenery(layout, kPlain, {500, 734}), kNone);
-  EXPECT_EQ(hitTestScenery(layout, kPlain, {483, 268}), id);
-  EXPECT_EQ(hitTestScenery(layout, kPlain, {481, 500}), kNone);
+  EXPECT_EQ(hitTestScenery(layout, kOnePixelPerMm, {517, 732}), id);
+  EXPECT_EQ(hitTestScenery(layout, kOnePixelPerMm, {519, 500}), kNone);
+  EXPECT_EQ(hitTestScenery(layout, kOnePixelPerMm, {500, 734}), kNone);
+  EXPECT_EQ(hitTestScenery(layout, kOnePixelPerMm, {483, 268}), id);
+  EXPECT_EQ(hitTestScenery(layout, kOnePixelPerMm, {481, 500}), kNone);
 }
 
 TEST(HitTestScenery, TakesTheHigherDeckAndOfEqualsTheLater) {
@@ -264,12 +261,12 @@ TEST(HitTestScenery, TakesTheHigherDeckAndOfEqualsTheLater) {
   AddLevel(layout, 3, 100.0005);
   SetScenery(layout, "platform", {}, 1);
   const std::int32_t later = SetScenery(layout, "platform", {}, 1);
-  EXPECT_EQ(hitTestScenery(layout, kPlain, {0, 0}), later);
+  EXPECT_EQ(hitTestScenery(layout, kOnePixelPerMm, {0, 0}), later);
   layout.scenery[0].level = 2;
-  EXPECT_EQ(hitTestScenery(layout, kPlain, {0, 0}), layout.scenery[0].id);
+  EXPECT_EQ(hitTestScenery(layout, kOnePixelPerMm, {0, 0}), layout.scenery[0].id);
   layout.scenery[1].level = 2;
   layout.scenery[0].level = 3;
-  EXPECT_EQ(hitTestScenery(layout, kPlain, {0, 0}), later) << "less than 0.001 mm higher";
+  EXPECT_EQ(hitTestScenery(layout, kOnePixelPerMm, {0, 0}), later) << "less than 0.001 mm higher";
 }
 
 TEST(HitTestScenery, PassesOverHiddenAndUnknownItems) {
@@ -277,13 +274,13 @@ TEST(HitTestScenery, PassesOverHiddenAndUnknownItems) {
   AddLevel(layout, 1, 0.0, false);
   SetScenery(layout, "platform", {}, 1);
   SetScenery(layout, "no such item", {}, 2);
-  EXPECT_EQ(hitTestScenery(layout, kPlain, {0, 0}), kNone);
+  EXPECT_EQ(hitTestScenery(layout, kOnePixelPerMm, {0, 0}), kNone);
   const std::int32_t stray = SetScenery(layout, "platform", {}, 2);
-  EXPECT_EQ(hitTestScenery(layout, kPlain, {0, 0}), stray) << "level 2 doesn't exist";
+  EXPECT_EQ(hitTestScenery(layout, kOnePixelPerMm, {0, 0}), stray) << "level 2 doesn't exist";
 }
 
 TEST(HitTests, SurviveAnyNumbersInThePlanAndInTheView) {
-  const double wild[] = {0.0, -1.0, 1e-300, 1e300, -1e300, kNan, kInf, -kInf};
+  const double wild[] = {0.0, -1.0, 1e-300, 1e300, -1e300, kNaN, kInf, -kInf};
   const DevicePoint corners[] = {
       {0, 0},
       {std::numeric_limits<int>::max(), std::numeric_limits<int>::min()},

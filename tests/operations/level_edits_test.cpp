@@ -12,8 +12,6 @@
 namespace vantrel {
 namespace {
 
-constexpr std::int32_t kLargestId = std::numeric_limits<std::int32_t>::max();
-
 Layout PlanWithLevels(const std::vector<std::int32_t>& ids) {
   Layout layout;
   for (const std::int32_t id : ids) {
@@ -23,12 +21,6 @@ Layout PlanWithLevels(const std::vector<std::int32_t>& ids) {
     layout.levels.push_back(level);
   }
   return layout;
-}
-
-std::vector<std::int32_t> LevelIds(const Layout& layout) {
-  std::vector<std::int32_t> ids;
-  for (const Level& level : layout.levels) ids.push_back(level.id);
-  return ids;
 }
 
 template <typename Record>

@@ -34,7 +34,7 @@ Layout Plan() {
   return layout;
 }
 
-void Select(Layout& layout, const std::vector<std::int32_t>& ids) {
+void Choose(Layout& layout, const std::vector<std::int32_t>& ids) {
   for (const std::int32_t id : ids) {
     for (Piece& piece : layout.pieces)
       if (piece.id == id) piece.sel = true;
@@ -50,19 +50,19 @@ std::string Told(const std::optional<Notice>& notice) {
 
 std::string DeleteLock(const std::vector<std::int32_t>& ids) {
   Layout layout = Plan();
-  Select(layout, ids);
+  Choose(layout, ids);
   return Told(selectionLock(layout, "delete"));
 }
 
 std::string RotateLock(const std::vector<std::int32_t>& ids) {
   Layout layout = Plan();
-  Select(layout, ids);
+  Choose(layout, ids);
   return Told(selectionLock(layout, "rotate"));
 }
 
 std::string MoveLock(const std::vector<std::int32_t>& ids) {
   Layout layout = Plan();
-  Select(layout, ids);
+  Choose(layout, ids);
   return Told(moveLock(layout));
 }
 
@@ -114,7 +114,7 @@ TEST(SelectionLock, NamesTheHelixWhenATunnelIsSelectedToo) {
 TEST(SelectionLock, HoldsAStubInATunnelAsHelixTrack) {
   Layout layout = Plan();
   layout.tunnels[0].covers.push_back(4);
-  Select(layout, {4});
+  Choose(layout, {4});
   EXPECT_EQ(Told(selectionLock(layout, "delete")), DeleteLock({4}));
 }
 
@@ -152,7 +152,7 @@ TEST(MoveLock, HoldsAHelixWithoutExactlyFourOfItsPieces) {
 TEST(MoveLock, CountsEachHelixByItself) {
   Layout layout = Plan();
   layout.pieces[5].helix = 71;
-  Select(layout, {3, 4, 5, 6});
+  Choose(layout, {3, 4, 5, 6});
   EXPECT_EQ(Told(moveLock(layout)), kPartOfAHelix);
 }
 
@@ -169,7 +169,7 @@ TEST(MoveLock, AsksForTheHelixBeforeTheTunnel) {
 TEST(MoveLock, LetsAWholeHelixGoThoughATunnelCoversAStub) {
   Layout layout = Plan();
   layout.tunnels[0].covers.push_back(4);
-  Select(layout, {3, 4, 5, 6});
+  Choose(layout, {3, 4, 5, 6});
   EXPECT_EQ(Told(moveLock(layout)), "");
 }
 

@@ -12,14 +12,6 @@
 namespace vantrel {
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-
-std::int32_t LaySelected(Layout& layout, std::string_view part, const Pose& pose) {
-  const std::int32_t id = LayPiece(layout, part, pose);
-  PieceOf(layout, id).sel = true;
-  return id;
-}
-
 SceneryItem& AddSelectedItem(Layout& layout, const Pose& pose) {
   SceneryItem item;
   item.id = TakeId(layout);

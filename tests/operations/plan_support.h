@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "catalog/connector_geometry.h"
 #include "catalog/track_catalog.h"
@@ -12,6 +14,10 @@
 #include "doc/layout_ops.h"
 
 namespace vantrel {
+
+inline constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+inline constexpr double kInf = std::numeric_limits<double>::infinity();
+inline constexpr std::int32_t kLargestId = std::numeric_limits<std::int32_t>::max();
 
 // Appends a piece with a slot for each connector and returns its id.
 inline std::int32_t LayPiece(Layout& layout, std::string_view part, const Pose& pose) {
@@ -31,6 +37,25 @@ inline Piece& PieceOf(Layout& layout, std::int32_t id) {
   EXPECT_NE(piece, nullptr) << "no piece " << id;
   static Piece nothing;
   return piece != nullptr ? *piece : nothing;
+}
+
+inline std::int32_t LaySelected(Layout& layout, std::string_view part, const Pose& pose = {}) {
+  const std::int32_t id = LayPiece(layout, part, pose);
+  PieceOf(layout, id).sel = true;
+  return id;
+}
+
+inline std::vector<std::int32_t> SelectedIds(const Layout& layout) {
+  std::vector<std::int32_t> ids;
+  for (const Piece& piece : layout.pieces)
+    if (piece.sel) ids.push_back(piece.id);
+  return ids;
+}
+
+inline std::vector<std::int32_t> LevelIds(const Layout& layout) {
+  std::vector<std::int32_t> ids;
+  for (const Level& level : layout.levels) ids.push_back(level.id);
+  return ids;
 }
 
 inline Joint JointOf(Layout& layout, std::int32_t id, std::size_t slot) {

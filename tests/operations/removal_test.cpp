@@ -31,13 +31,6 @@ std::vector<std::int32_t> PieceIds(const Layout& layout) {
   return ids;
 }
 
-std::vector<std::int32_t> SelectedIds(const Layout& layout) {
-  std::vector<std::int32_t> ids;
-  for (const Piece& piece : layout.pieces)
-    if (piece.sel) ids.push_back(piece.id);
-  return ids;
-}
-
 // Two of each kind that can be deleted, the second of each selected.
 Layout TwoOfEach() {
   Layout layout;

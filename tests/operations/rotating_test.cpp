@@ -11,14 +11,6 @@
 namespace vantrel {
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-
-std::int32_t LaySelected(Layout& layout, std::string_view part, const Pose& pose) {
-  const std::int32_t id = LayPiece(layout, part, pose);
-  PieceOf(layout, id).sel = true;
-  return id;
-}
-
 SceneryItem& AddSelectedItem(Layout& layout, std::string_view item, const Pose& pose) {
   SceneryItem added;
   added.id = TakeId(layout);

@@ -12,17 +12,18 @@ namespace vantrel {
 namespace {
 
 // A pixel is a millimetre.
-constexpr ViewTransform kPlain{.scale = 1.0, .offsetX = 0.0, .offsetY = 0.0};
+constexpr ViewTransform kPixelPerMm{.scale = 1.0, .offsetX = 0.0, .offsetY = 0.0};
 
 // Whether a band selects this one piece.
 bool Touches(std::string_view part, const Pose& pose, DevicePoint from, DevicePoint to) {
   Layout layout;
   LayPiece(layout, part, pose);
-  selectInBand(layout, kPlain, from, to);
+  selectInBand(layout, kPixelPerMm, from, to);
   return layout.pieces[0].sel;
 }
 
-void SetScenery(Layout& layout, std::string_view key, double x, double y, std::int32_t level = 1) {
+void StandScenery(Layout& layout, std::string_view key, double x, double y,
+                  std::int32_t level = 1) {
   SceneryItem item;
   item.id = TakeId(layout);
   item.item = std::string(key);
@@ -32,7 +33,7 @@ void SetScenery(Layout& layout, std::string_view key, double x, double y, std::i
   layout.scenery.push_back(item);
 }
 
-void ExpectPoint(Vec2 point, double x, double y) {
+void ExpectScreenPoint(Vec2 point, double x, double y) {
   EXPECT_NEAR(point.x, x, 0.01);
   EXPECT_NEAR(point.y, y, 0.01);
 }
@@ -41,9 +42,9 @@ void ExpectPoint(Vec2 point, double x, double y) {
 TEST(SelectInBand, TakesABandOf4By100PixelsAndRefusesOneOf4By4) {
   Layout layout;
   LayPiece(layout, "24188", {50.0, 50.0, 0.0});
-  EXPECT_FALSE(selectInBand(layout, kPlain, {100, 48}, {104, 52}));
+  EXPECT_FALSE(selectInBand(layout, kPixelPerMm, {100, 48}, {104, 52}));
   EXPECT_FALSE(layout.pieces[0].sel);
-  EXPECT_TRUE(selectInBand(layout, kPlain, {100, 0}, {104, 100}));
+  EXPECT_TRUE(selectInBand(layout, kPixelPerMm, {100, 0}, {104, 100}));
   EXPECT_TRUE(layout.pieces[0].sel);
 }
 
@@ -128,7 +129,7 @@ TEST(SelectInBand, LeavesHiddenAndUnknownPiecesAlone) {
   LayPiece(layout, "no such part", {50.0, 50.0, 0.0});
   LayPiece(layout, "24188", {50.0, 50.0, 0.0});
   layout.pieces[2].level = 9;
-  selectInBand(layout, kPlain, {0, 0}, {400, 400});
+  selectInBand(layout, kPixelPerMm, {0, 0}, {400, 400});
   EXPECT_FALSE(layout.pieces[0].sel);
   EXPECT_FALSE(layout.pieces[1].sel);
   EXPECT_TRUE(layout.pieces[2].sel) << "level 9 doesn't exist";
@@ -139,13 +140,13 @@ TEST(SelectInBand, TakesSceneryByItsPosition) {
   layout.levels.resize(2);
   layout.levels[1].id = 2;
   layout.levels[1].visible = false;
-  SetScenery(layout, "platform", 100.0, 100.0);
-  SetScenery(layout, "platform", 200.9, 150.9);  // pixel (200, 150)
-  SetScenery(layout, "platform", 201.0, 150.0);
-  SetScenery(layout, "platform", 99.0, 100.0);
-  SetScenery(layout, "platform", 150.0, 120.0, 2);
-  SetScenery(layout, "no such item", 150.0, 120.0);
-  selectInBand(layout, kPlain, {100, 100}, {200, 150});
+  StandScenery(layout, "platform", 100.0, 100.0);
+  StandScenery(layout, "platform", 200.9, 150.9);  // pixel (200, 150)
+  StandScenery(layout, "platform", 201.0, 150.0);
+  StandScenery(layout, "platform", 99.0, 100.0);
+  StandScenery(layout, "platform", 150.0, 120.0, 2);
+  StandScenery(layout, "no such item", 150.0, 120.0);
+  selectInBand(layout, kPixelPerMm, {100, 100}, {200, 150});
   EXPECT_TRUE(layout.scenery[0].sel);
   EXPECT_TRUE(layout.scenery[1].sel);
   EXPECT_FALSE(layout.scenery[2].sel);
@@ -163,7 +164,7 @@ TEST(SelectInBand, SelectsWholeHelicesButNoNeighboursOfATurntable) {
   LayPiece(layout, "24188", {0.0, 5000.0, 0.0});
   layout.pieces[2].helix = 70;
   layout.pieces[3].helix = 70;
-  selectInBand(layout, kPlain, {-10, -10}, {10, 10});
+  selectInBand(layout, kPixelPerMm, {-10, -10}, {10, 10});
   EXPECT_TRUE(layout.pieces[0].sel);
   EXPECT_FALSE(layout.pieces[1].sel);
   EXPECT_TRUE(layout.pieces[2].sel);
@@ -174,7 +175,7 @@ TEST(SelectInBand, AddsToWhatIsSelected) {
   Layout layout;
   LayPiece(layout, "24188", {5000.0, 0.0, 0.0});
   layout.pieces[0].sel = true;
-  selectInBand(layout, kPlain, {0, 0}, {10, 10});
+  selectInBand(layout, kPixelPerMm, {0, 0}, {10, 10});
   EXPECT_TRUE(layout.pieces[0].sel);
 }
 
@@ -192,7 +193,7 @@ TEST(SelectInBand, SurvivesAnyNumbers) {
       Layout layout;
       for (const char* part : {"24188", "24130", "24611", "74861", "24640"})
         LayPiece(layout, part, {a, b, a});
-      SetScenery(layout, "platform", a, b);
+      StandScenery(layout, "platform", a, b);
       const ViewTransform view{.scale = b, .offsetX = a, .offsetY = b};
       EXPECT_FALSE(selectInBand(layout, view, {kHigh, kLow}, {kHigh, kLow}));
       EXPECT_FALSE(layout.pieces[0].sel);
@@ -211,8 +212,8 @@ TEST(PieceOutlineSegments, AreALineAlongTheHeadingForAStraight) {
   const auto lines = pieceOutlineSegments(piece, *findPart("24188"));
   ASSERT_EQ(lines.size(), 1u);
   ASSERT_EQ(lines[0].size(), 2u);
-  ExpectPoint(lines[0][0], 100.0, 50.0);
-  ExpectPoint(lines[0][1], 100.0, 238.3);
+  ExpectScreenPoint(lines[0][0], 100.0, 50.0);
+  ExpectScreenPoint(lines[0][1], 100.0, 238.3);
 }
 
 // 24130 turned by 90 degrees: local (x, y) lies at (-y, x). After 15 of the 30 degrees
@@ -223,9 +224,9 @@ TEST(PieceOutlineSegments, AreAnArcOfSixStepsAtLeast) {
   const auto lines = pieceOutlineSegments(piece, *findPart("24130"));
   ASSERT_EQ(lines.size(), 1u);
   ASSERT_EQ(lines[0].size(), 7u);
-  ExpectPoint(lines[0][0], 0.0, 0.0);
-  ExpectPoint(lines[0][3], -12.267, 93.175);
-  ExpectPoint(lines[0][6], -48.231, 180.0);
+  ExpectScreenPoint(lines[0][0], 0.0, 0.0);
+  ExpectScreenPoint(lines[0][3], -12.267, 93.175);
+  ExpectScreenPoint(lines[0][6], -48.231, 180.0);
   EXPECT_EQ(pieceOutlineSegments(piece, *findPart("24107"))[0].size(), 7u) << "7.5 degrees";
 }
 
@@ -243,19 +244,19 @@ TEST(PieceOutlineSegments, AreTheArcAndTheLineToTheBranchForATurnout) {
     const auto lines = pieceOutlineSegments(Piece{}, *findPart(side < 0.0 ? "24611" : "24612"));
     ASSERT_EQ(lines.size(), 2u);
     ASSERT_EQ(lines[0].size(), 7u);
-    ExpectPoint(lines[0][3], 92.08, side * 9.80);
-    ExpectPoint(lines[0][6], 180.04, side * 38.76);
+    ExpectScreenPoint(lines[0][3], 92.08, side * 9.80);
+    ExpectScreenPoint(lines[0][6], 180.04, side * 38.76);
     ASSERT_EQ(lines[1].size(), 2u);
-    ExpectPoint(lines[1][0], 0.0, 0.0);
-    ExpectPoint(lines[1][1], 180.04, side * 38.76);
+    ExpectScreenPoint(lines[1][0], 0.0, 0.0);
+    ExpectScreenPoint(lines[1][1], 180.04, side * 38.76);
   }
 }
 
 TEST(PieceOutlineSegments, UseNoConnectorBeyondConnector2) {
   const auto lines = pieceOutlineSegments(Piece{}, *findPart("24640"));
   ASSERT_EQ(lines.size(), 2u);
-  ExpectPoint(lines[0][1], 188.3, 0.0);
-  ExpectPoint(lines[1][1], 8.34, -38.74);
+  ExpectScreenPoint(lines[0][1], 188.3, 0.0);
+  ExpectScreenPoint(lines[1][1], 8.34, -38.74);
 }
 
 // Radius 139 and 12 degrees: 139 * sin 12 = 28.90, 139 * (1 - cos 12) = 3.04. An odd pair of lines,
@@ -265,10 +266,10 @@ TEST(PieceOutlineSegments, TakeATurntableForACurveOfItsStep) {
   const auto lines = pieceOutlineSegments(Piece{}, def);
   ASSERT_EQ(lines.size(), 2u);
   ASSERT_EQ(lines[0].size(), 7u);
-  ExpectPoint(lines[0][0], 0.0, 0.0);
-  ExpectPoint(lines[0][6], 28.90, 3.04);
-  ExpectPoint(lines[1][0], 0.0, 0.0);
-  ExpectPoint(lines[1][1], def.connectors[2].x, def.connectors[2].y);
+  ExpectScreenPoint(lines[0][0], 0.0, 0.0);
+  ExpectScreenPoint(lines[0][6], 28.90, 3.04);
+  ExpectScreenPoint(lines[1][0], 0.0, 0.0);
+  ExpectScreenPoint(lines[1][1], def.connectors[2].x, def.connectors[2].y);
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ namespace {
 
 using Ids = std::vector<std::int32_t>;
 
-Ids SelectedIds(const Layout& layout) {
+Ids ChosenIds(const Layout& layout) {
   Ids ids;
   for (const Piece* piece : selectedPieces(layout)) ids.push_back(piece->id);
   return ids;
@@ -45,7 +45,7 @@ void LayStubs(Layout& layout, std::int32_t helix, int count = 4) {
   }
 }
 
-void Select(Layout& layout, const Ids& ids) {
+void SelectThese(Layout& layout, const Ids& ids) {
   for (const std::int32_t id : ids) PieceOf(layout, id).sel = true;
 }
 
@@ -60,15 +60,15 @@ void SetScenery(Layout& layout, std::int32_t id, bool sel) {
 TEST(Selection, ListsWhatIsSelectedInListOrder) {
   Layout layout = Line(4);
   std::swap(layout.pieces[0], layout.pieces[3]);
-  Select(layout, {1, 2, 4});
+  SelectThese(layout, {1, 2, 4});
   SetScenery(layout, 30, true);
   SetScenery(layout, 31, false);
   SetScenery(layout, 29, true);
-  EXPECT_EQ(SelectedIds(layout), (Ids{4, 2, 1}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{4, 2, 1}));
   EXPECT_EQ(SelectedSceneryIds(layout), (Ids{30, 29}));
   selectedPieces(layout)[1]->sel = false;
   selectedScenery(layout)[0]->sel = false;
-  EXPECT_EQ(SelectedIds(layout), (Ids{4, 1}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{4, 1}));
   EXPECT_EQ(SelectedSceneryIds(layout), (Ids{29}));
 }
 
@@ -94,14 +94,14 @@ TEST(CommonHelixOfSelection, IsTheHelixThatAllSelectedPiecesShare) {
   LayStubs(layout, 80, 4);  // 5 to 8
   LayPiece(layout, "24188", {});
   EXPECT_EQ(commonHelixOfSelection(layout), kNone) << "nothing is selected";
-  Select(layout, {2});
+  SelectThese(layout, {2});
   EXPECT_EQ(commonHelixOfSelection(layout), 70);
-  Select(layout, {1, 3, 4});
+  SelectThese(layout, {1, 3, 4});
   EXPECT_EQ(commonHelixOfSelection(layout), 70);
-  Select(layout, {9});
+  SelectThese(layout, {9});
   EXPECT_EQ(commonHelixOfSelection(layout), kNone) << "a piece without a helix";
   PieceOf(layout, 9).sel = false;
-  Select(layout, {5});
+  SelectThese(layout, {5});
   EXPECT_EQ(commonHelixOfSelection(layout), kNone) << "two helices";
   PieceOf(layout, 5).sel = false;
   SetScenery(layout, 30, true);
@@ -111,7 +111,7 @@ TEST(CommonHelixOfSelection, IsTheHelixThatAllSelectedPiecesShare) {
 TEST(CommonHelixOfSelection, IsNoneWhenAPieceWithoutAHelixComesFirst) {
   Layout layout = Line(1);
   LayStubs(layout, 70);
-  Select(layout, {1, 2});
+  SelectThese(layout, {1, 2});
   EXPECT_EQ(commonHelixOfSelection(layout), kNone);
 }
 
@@ -120,14 +120,14 @@ TEST(ExpandHelixSelection, SelectsEveryPieceOfEachHelixTouched) {
   LayStubs(layout, 70);  // 2 to 5
   LayStubs(layout, 80);  // 6 to 9
   LayStubs(layout, 90);  // 10 to 13
-  Select(layout, {3, 9});
+  SelectThese(layout, {3, 9});
   expandHelixSelection(layout);
-  EXPECT_EQ(SelectedIds(layout), (Ids{2, 3, 4, 5, 6, 7, 8, 9}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{2, 3, 4, 5, 6, 7, 8, 9}));
 }
 
 TEST(ClickPiece, SelectsThePieceAlone) {
   Layout layout = Line(3);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   SetScenery(layout, 30, true);
   layout.labels.resize(1);
   layout.labels[0].sel = true;
@@ -136,7 +136,7 @@ TEST(ClickPiece, SelectsThePieceAlone) {
   layout.measurements.resize(1);
   layout.measurements[0].sel = true;
   clickPiece(layout, 2);
-  EXPECT_EQ(SelectedIds(layout), (Ids{2}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{2}));
   EXPECT_FALSE(layout.scenery[0].sel);
   EXPECT_FALSE(layout.labels[0].sel);
   EXPECT_FALSE(layout.shapes[0].sel);
@@ -145,10 +145,10 @@ TEST(ClickPiece, SelectsThePieceAlone) {
 
 TEST(ClickPiece, KeepsASelectionThatThePieceIsPartOf) {
   Layout layout = Line(3);
-  Select(layout, {1, 3});
+  SelectThese(layout, {1, 3});
   SetScenery(layout, 30, true);
   clickPiece(layout, 3);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 3}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 3}));
   EXPECT_TRUE(layout.scenery[0].sel);
 }
 
@@ -156,17 +156,17 @@ TEST(ClickPiece, OnOneStubSelectsAllFourStubsOfItsHelix) {
   Layout layout = Line(1);
   LayStubs(layout, 70);
   LayStubs(layout, 80);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   clickPiece(layout, 4);
-  EXPECT_EQ(SelectedIds(layout), (Ids{2, 3, 4, 5}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{2, 3, 4, 5}));
 }
 
 TEST(ClickPiece, OnASelectedStubCompletesItsHelix) {
   Layout layout = Line(1);
   LayStubs(layout, 70);
-  Select(layout, {1, 4});
+  SelectThese(layout, {1, 4});
   clickPiece(layout, 4);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 2, 3, 4, 5}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 2, 3, 4, 5}));
 }
 
 TEST(ClickPiece, OnATurntableSelectsWhatIsJoinedToItsOwnSlots) {
@@ -183,7 +183,7 @@ TEST(ClickPiece, OnATurntableSelectsWhatIsJoinedToItsOwnSlots) {
   PieceOf(layout, oneSided).joints[0] = {.target = table, .tconn = 7};
   PieceOf(layout, table).joints[3] = {.target = 999, .tconn = 0};
   clickPiece(layout, table);
-  EXPECT_EQ(SelectedIds(layout), (Ids{table, first, second}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{table, first, second}));
 }
 
 TEST(ClickPiece, OnATurntableBringsTheWholeHelixOfAStubJoinedToIt) {
@@ -192,7 +192,7 @@ TEST(ClickPiece, OnATurntableBringsTheWholeHelixOfAStubJoinedToIt) {
   LayStubs(layout, 70);
   joinPieces(layout, table, 0, 3, 0);
   clickPiece(layout, table);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 2, 3, 4, 5}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 2, 3, 4, 5}));
 }
 
 TEST(ClickPiece, OnATurntableInAHelixGoesByTheHelix) {
@@ -203,7 +203,7 @@ TEST(ClickPiece, OnATurntableInAHelixGoesByTheHelix) {
   const std::int32_t spoke = LayPiece(layout, "74871", {139.0, 0.0, 0.0});
   joinPieces(layout, table, 0, spoke, 0);
   clickPiece(layout, table);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 2, 3, table}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 2, 3, table}));
 }
 
 TEST(ClickPiece, OnASpokeDoesntSelectItsTurntable) {
@@ -212,7 +212,7 @@ TEST(ClickPiece, OnASpokeDoesntSelectItsTurntable) {
   const std::int32_t spoke = LayPiece(layout, "74871", {139.0, 0.0, 0.0});
   joinPieces(layout, table, 0, spoke, 0);
   clickPiece(layout, spoke);
-  EXPECT_EQ(SelectedIds(layout), (Ids{spoke}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{spoke}));
 }
 
 TEST(ClickPiece, LeavesTheJointsAsTheyAre) {
@@ -230,34 +230,34 @@ TEST(SelectTurntableNeighbours, FollowsOnlySelectedTurntables) {
   const std::int32_t otherSpoke = LayPiece(layout, "74871", {2139.0, 0.0, 0.0});
   joinPieces(layout, table, 0, spoke, 0);
   joinPieces(layout, other, 0, otherSpoke, 0);
-  Select(layout, {table});
+  SelectThese(layout, {table});
   selectTurntableNeighbours(layout);
-  EXPECT_EQ(SelectedIds(layout), (Ids{table, spoke}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{table, spoke}));
 }
 
 TEST(ClickPieceToggle, TurnsThePieceOverAndKeepsTheRest) {
   Layout layout = Line(3);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   clickPieceToggle(layout, 3);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 3}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 3}));
   clickPieceToggle(layout, 1);
-  EXPECT_EQ(SelectedIds(layout), (Ids{3}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{3}));
 }
 
 TEST(ClickPieceToggle, CantDeselectOneStubOfASelectedHelix) {
   Layout layout;
   LayStubs(layout, 70);
-  Select(layout, {1, 2, 3, 4});
+  SelectThese(layout, {1, 2, 3, 4});
   clickPieceToggle(layout, 2);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 2, 3, 4}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 2, 3, 4}));
 }
 
 TEST(ClickPieceToggle, AddsAWholeHelix) {
   Layout layout = Line(1);
   LayStubs(layout, 70);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   clickPieceToggle(layout, 5);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 2, 3, 4, 5}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 2, 3, 4, 5}));
 }
 
 TEST(ClickPieceToggle, DoesntBringTheNeighboursOfATurntable) {
@@ -266,14 +266,14 @@ TEST(ClickPieceToggle, DoesntBringTheNeighboursOfATurntable) {
   const std::int32_t spoke = LayPiece(layout, "74871", {139.0, 0.0, 0.0});
   joinPieces(layout, table, 0, spoke, 0);
   clickPieceToggle(layout, table);
-  EXPECT_EQ(SelectedIds(layout), (Ids{table}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{table}));
 }
 
 TEST(ClickPieceChain, SelectsTheWayFromTheSelectedPiece) {
   Layout layout = Line(5);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   clickPieceChain(layout, 4);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 2, 3, 4}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 2, 3, 4}));
 }
 
 TEST(ClickPieceChain, StartsFromTheSelectedPieceLatestInTheList) {
@@ -281,67 +281,67 @@ TEST(ClickPieceChain, StartsFromTheSelectedPieceLatestInTheList) {
   clickPiece(layout, 5);
   clickPieceToggle(layout, 1);  // the one clicked last
   clickPieceChain(layout, 3);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 3, 4, 5}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 3, 4, 5}));
 }
 
 TEST(ClickPieceChain, GoesByTheOrderOfTheListAndNotByIds) {
   Layout layout = Line(5);
   std::swap(layout.pieces[0], layout.pieces[4]);
-  Select(layout, {1, 5});
+  SelectThese(layout, {1, 5});
   clickPieceChain(layout, 3);
-  EXPECT_EQ(SelectedIds(layout), (Ids{5, 2, 3, 1}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{5, 2, 3, 1}));
 }
 
 TEST(ClickPieceChain, KeepsTheSelectionMadeBefore) {
   Layout layout = Line(5);
   const std::int32_t apart = LayPiece(layout, "24188", {0.0, 900.0, 0.0});
   std::swap(layout.pieces[0], layout.pieces[5]);
-  Select(layout, {1, apart});
+  SelectThese(layout, {1, apart});
   clickPieceChain(layout, 3);
-  EXPECT_EQ(SelectedIds(layout), (Ids{apart, 2, 3, 1}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{apart, 2, 3, 1}));
 }
 
 TEST(ClickPieceChain, TurnsThePieceOverWithoutAnAnchor) {
   Layout layout = Line(3);
   clickPieceChain(layout, 2);
-  EXPECT_EQ(SelectedIds(layout), (Ids{2}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{2}));
 }
 
 TEST(ClickPieceChain, TurnsTheAnchorItselfOver) {
   Layout layout = Line(3);
-  Select(layout, {1, 3});
+  SelectThese(layout, {1, 3});
   clickPieceChain(layout, 3);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1}));
 }
 
 TEST(ClickPieceChain, WithNoPathBetweenTheTwoTurnsTheClickedPieceOver) {
   Layout layout = Line(2);
   const std::int32_t apart = LayPiece(layout, "24188", {0.0, 900.0, 0.0});
-  Select(layout, {2});
+  SelectThese(layout, {2});
   clickPieceChain(layout, apart);
-  EXPECT_EQ(SelectedIds(layout), (Ids{2, apart}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{2, apart}));
   // The anchor is `apart` now, and 2 can't be reached from it.
   clickPieceChain(layout, 2);
-  EXPECT_EQ(SelectedIds(layout), (Ids{apart}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{apart}));
 }
 
 TEST(ClickPieceChain, TakesTheShorterSideOfARing) {
   Layout layout = Ring(8);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   clickPieceChain(layout, 4);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 2, 3, 4}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 2, 3, 4}));
   ClearSelection(layout);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   clickPieceChain(layout, 7);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 7, 8}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 7, 8}));
 }
 
 // Both ways from 1 to 4 have two pieces between; slot 0 of piece 1 leads to 6.
 TEST(ClickPieceChain, OfEqualWaysTakesTheOneOverTheLowerSlot) {
   Layout layout = Ring(6);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   clickPieceChain(layout, 4);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 4, 5, 6}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 4, 5, 6}));
 }
 
 // From 1 over the turnout 2: the straight route 3, 4, 5 and the branch 6 both lead to 7.
@@ -358,49 +358,49 @@ TEST(ClickPieceChain, TakesTheShortestRouteOverAnyBranchOfATurnout) {
   joinPieces(layout, 5, 1, 7, 1);
   joinPieces(layout, 2, 2, 6, 0);
   joinPieces(layout, 6, 1, 7, 2);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   clickPieceChain(layout, 7);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 2, 6, 7}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 2, 6, 7}));
 }
 
 TEST(ClickPieceChain, EndsABranchAtAPieceThatDoesntExist) {
   Layout layout = Line(5);
   layout.pieces.erase(layout.pieces.begin() + 2);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   clickPieceChain(layout, 5);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 5}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 5}));
 }
 
 TEST(ClickPieceChain, DoesntFollowTargetsBelow0) {
   Layout layout = Line(3);
   PieceOf(layout, 2).id = -2;
   PieceOf(layout, 1).joints[1].target = -2;
-  Select(layout, {1});
+  SelectThese(layout, {1});
   clickPieceChain(layout, 3);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 3}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 3}));
 }
 
 TEST(ClickPieceChain, FollowsJointsThatNoPieceNamesBack) {
   Layout layout = Line(3);
   PieceOf(layout, 2).joints[0] = {};
   PieceOf(layout, 1).joints[1].tconn = 77;
-  Select(layout, {1});
+  SelectThese(layout, {1});
   clickPieceChain(layout, 3);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 2, 3}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 2, 3}));
 }
 
 TEST(ClickPieceChain, OverAStubBringsItsHelix) {
   Layout layout = Line(2);
   LayStubs(layout, 70);  // 3 to 6
   joinPieces(layout, 2, 1, 3, 0);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   clickPieceChain(layout, 3);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1, 2, 3, 4, 5, 6}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1, 2, 3, 4, 5, 6}));
 }
 
 TEST(ClicksOnAMissingPiece, DoNothing) {
   Layout layout = Line(2);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   const Layout before = layout;
   for (const std::int32_t id : {kNone, 99, -7}) {
     clickPiece(layout, id);
@@ -414,27 +414,27 @@ TEST(ClicksOnAMissingPiece, DoNothing) {
 
 TEST(ClickScenery, SelectsTheItemAloneOrKeepsTheSelectionItIsPartOf) {
   Layout layout = Line(1);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   SetScenery(layout, 30, true);
   SetScenery(layout, 31, false);
   clickScenery(layout, 30, false);
-  EXPECT_EQ(SelectedIds(layout), (Ids{1}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1}));
   EXPECT_EQ(SelectedSceneryIds(layout), (Ids{30}));
   clickScenery(layout, 31, false);
-  EXPECT_EQ(SelectedIds(layout), (Ids{}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{}));
   EXPECT_EQ(SelectedSceneryIds(layout), (Ids{31}));
 }
 
 TEST(ClickScenery, TurnsTheItemOverWhenAsked) {
   Layout layout = Line(1);
-  Select(layout, {1});
+  SelectThese(layout, {1});
   SetScenery(layout, 30, true);
   SetScenery(layout, 31, false);
   clickScenery(layout, 31, true);
   EXPECT_EQ(SelectedSceneryIds(layout), (Ids{30, 31}));
   clickScenery(layout, 30, true);
   EXPECT_EQ(SelectedSceneryIds(layout), (Ids{31}));
-  EXPECT_EQ(SelectedIds(layout), (Ids{1}));
+  EXPECT_EQ(ChosenIds(layout), (Ids{1}));
 }
 
 // Joints of all kinds of damage, ids that repeat: every click ends, and what it is about is done.

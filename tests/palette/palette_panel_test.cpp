@@ -20,8 +20,8 @@ using Texts = std::vector<std::string>;
 const Texts kFreshPages = {"Track", "Library", "Scenery", "Signals"};
 const Texts kPagesAtZ = {"Track", "Library", "Signals"};
 const Texts kPagesAfterZ = {"Track", "Library", "Signals", "Scenery"};
-const Texts kSignals = {"Semaphore (Stop)", "Semaphore (Clear)", "Color light (Stop)",
-                        "Color light (Clear)"};
+const Texts kSignalTexts = {"Semaphore (Stop)", "Semaphore (Clear)", "Color light (Stop)",
+                            "Color light (Clear)"};
 const Texts kZSignals = {"Semaphore Z (Stop)", "Semaphore Z (Clear)", "Color light Z (Stop)",
                          "Color light Z (Clear)"};
 
@@ -146,15 +146,15 @@ TEST_F(PaletteTest, ListsTheSceneryUnderHeadingsInCatalogOrder) {
 }
 
 TEST_F(PaletteTest, ListsTheSignalsOfTheChosenScale) {
-  EXPECT_EQ(texts(signals), kSignals);
+  EXPECT_EQ(texts(signals), kSignalTexts);
   for (const int index : {1, 2}) {
     choose(index);
-    EXPECT_EQ(texts(signals), kSignals) << index;
+    EXPECT_EQ(texts(signals), kSignalTexts) << index;
   }
   choose(3);
   EXPECT_EQ(texts(signals), kZSignals);
   choose(0);
-  EXPECT_EQ(texts(signals), kSignals);
+  EXPECT_EQ(texts(signals), kSignalTexts);
 }
 
 TEST_F(PaletteTest, AtZTrackHasOnlyTrackLibraryAndSignalsAndOnlyZSignals) {

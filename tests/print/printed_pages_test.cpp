@@ -165,7 +165,11 @@ TEST_F(PrintedPages, ALabelStandsWhereItIsAndNotInTheCorner) {
 class PrintedAcross : public PrintedPages, public testing::WithParamInterface<wxPaperSize> {};
 
 INSTANTIATE_TEST_SUITE_P(Papers, PrintedAcross,
-                         testing::Values(wxPAPER_LETTER, wxPAPER_A4, wxPAPER_A3));
+                         testing::Values(wxPAPER_LETTER, wxPAPER_A4, wxPAPER_A3),
+                         [](const auto& paper) {
+                           if (paper.param == wxPAPER_LETTER) return std::string("Letter");
+                           return std::string(paper.param == wxPAPER_A4 ? "A4" : "A3");
+                         });
 
 TEST_P(PrintedAcross, ThePlanStandsInTheMiddleOfThePaper) {
   options_.mode = kFitToPage;

@@ -6,7 +6,7 @@
 namespace vantrel {
 namespace {
 
-const wxColour kRed(200, 40, 40);
+const wxColour kWarningRed(200, 40, 40);
 
 class PanelPages : public PanelTest {
  protected:
@@ -52,7 +52,7 @@ TEST_F(PanelPages, ASteepGradeIsRedAndTheNextFlatOneIsNot) {
   piece(id).grade = 6.1;
   panel->RefreshSelection();
   EXPECT_EQ(wrapped("gradeWarning").text(), "WARNING: Grade 6.1 deg exceeds 6 deg max!");
-  EXPECT_EQ(text("gradeValue").GetForegroundColour(), kRed);
+  EXPECT_EQ(text("gradeValue").GetForegroundColour(), kWarningRed);
   EXPECT_EQ(spin().GetValue(), 6.0);
   piece(id).grade = 6.0;
   panel->RefreshSelection();

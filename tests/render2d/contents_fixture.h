@@ -15,6 +15,8 @@ namespace vantrel::contents_test {
 
 inline constexpr ViewTransform kOneToOne{1.0, 0.0, 0.0};
 inline constexpr DeviceSize kSize{1160, 800};
+inline constexpr Rgba kSelectedFill{180, 200, 230};
+inline constexpr Rgba kBoardFill{245, 235, 210};
 
 // Nothing in it, grid off, no part numbers or dots.
 Layout PlainPlan();

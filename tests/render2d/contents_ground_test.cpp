@@ -11,7 +11,6 @@ namespace {
 using namespace contents_test;
 
 const RecordedPen kBoardPen = SolidPen({120, 90, 50}, 2);
-const Rgba kBoardFill{245, 235, 210};
 const Rgba kGrid{220, 220, 215};
 const Rgba kCross{180, 180, 220};
 

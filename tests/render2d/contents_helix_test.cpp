@@ -12,7 +12,6 @@ using Ids = std::unordered_set<std::int32_t>;
 
 constexpr ViewTransform kSmall{0.2, 0.0, 0.0};
 const Rgba kPlainBed{210, 210, 205};
-const Rgba kSelectedFill{180, 200, 230};
 
 Helix HelixAt(std::int32_t id, double x, double y, double heading = 0.0) {
   Helix helix;
@@ -51,7 +50,7 @@ Layout HelixWithTrack() {
 }
 
 // The reds of the beds in drawing order, all ring curves in a row as one 0.
-std::vector<int> BedOrder(const Layout& layout) {
+std::vector<int> StubOrder(const Layout& layout) {
   std::vector<int> reds;
   for (const DrawCall& call : OfOp(Painted(layout, kSmall), DrawOp::polygon)) {
     const bool ring = call.points.size() == 42;  // 20 segments, the curves of 30 degrees
@@ -122,9 +121,9 @@ TEST(ContentsHelix, TheRingsBelongToTheLevelOfTheFirstStub) {
   Layout layout = HelixWithTrack();
   layout.levels = {DeckLevel(1, 0), DeckLevel(2, 0, false)};
   layout.pieces[1].level = 2;  // the second one in the plan
-  EXPECT_EQ(BedOrder(layout), (std::vector<int>{3, 5, 0, 2, 4, 6}));
+  EXPECT_EQ(StubOrder(layout), (std::vector<int>{3, 5, 0, 2, 4, 6}));
   layout.pieces[0].level = 2;
-  EXPECT_EQ(BedOrder(layout), (std::vector<int>{3, 5, 4, 6}));
+  EXPECT_EQ(StubOrder(layout), (std::vector<int>{3, 5, 4, 6}));
 }
 
 TEST(ContentsHelix, AHelixWithoutStubsBelongsToLevel1) {
@@ -140,22 +139,22 @@ TEST(ContentsHelix, AHelixWithoutStubsBelongsToLevel1) {
 }
 
 TEST(ContentsHelix, TheLowerEndAndWhatHangsOnItPassUnderTheRingsTheRestOverThem) {
-  EXPECT_EQ(BedOrder(HelixWithTrack()), (std::vector<int>{1, 3, 5, 0, 2, 4, 6}));
+  EXPECT_EQ(StubOrder(HelixWithTrack()), (std::vector<int>{1, 3, 5, 0, 2, 4, 6}));
 }
 
 TEST(ContentsHelix, SelectedLowTrackStaysUnderTheRings) {
   Layout layout = HelixWithTrack();
   layout.pieces[2].sel = true;  // piece 3
   layout.pieces[5].sel = true;  // piece 6
-  EXPECT_EQ(BedOrder(layout), (std::vector<int>{1, 5, 180, 0, 2, 4, 180}));
+  EXPECT_EQ(StubOrder(layout), (std::vector<int>{1, 5, 180, 0, 2, 4, 180}));
 }
 
 TEST(ContentsHelix, AStubBelongsToTheUpperEndFromHalfAMillimetreOn) {
   Layout layout = HelixWithTrack();
   layout.pieces[1].z = 0.49;
-  EXPECT_EQ(BedOrder(layout), (std::vector<int>{1, 3, 5, 0, 2, 4, 6}));
+  EXPECT_EQ(StubOrder(layout), (std::vector<int>{1, 3, 5, 0, 2, 4, 6}));
   layout.pieces[1].z = 0.5;
-  EXPECT_EQ(BedOrder(layout), (std::vector<int>{0, 2, 1, 3, 4, 5, 6}));
+  EXPECT_EQ(StubOrder(layout), (std::vector<int>{0, 2, 1, 3, 4, 5, 6}));
 }
 
 TEST(ContentsHelix, TheWalkFromTheLowerEndStopsAtAnyStub) {
@@ -164,13 +163,13 @@ TEST(ContentsHelix, TheWalkFromTheLowerEndStopsAtAnyStub) {
   layout.pieces.push_back(Stub(7, 51, 100.0, {7, 0, 0}));
   Join(layout, 5, 1, 7, 0);
   Join(layout, 7, 1, 6, 0);
-  EXPECT_EQ(BedOrder(layout), (std::vector<int>{1, 3, 5, 0, 2, 4, 6, 7}));
+  EXPECT_EQ(StubOrder(layout), (std::vector<int>{1, 3, 5, 0, 2, 4, 6, 7}));
 }
 
 TEST(ContentsHelix, TrackBetweenBothEndsIsLow) {
   Layout layout = HelixWithTrack();
   Join(layout, 5, 1, 4, 1);
-  EXPECT_EQ(BedOrder(layout), (std::vector<int>{1, 3, 4, 5, 0, 2, 6}));
+  EXPECT_EQ(StubOrder(layout), (std::vector<int>{1, 3, 4, 5, 0, 2, 6}));
 }
 
 TEST(ContentsHelix, AllThatHangsOnAHelixIsLinkedAndTheNextPaintStartsAnew) {
@@ -186,7 +185,7 @@ TEST(ContentsHelix, LinkedTrackKeepsItsColourHighAboveTheGround) {
   Layout layout = HelixWithTrack();
   for (Piece& piece : layout.pieces) piece.z = piece.id == 1 ? 0.0 : 60.0;
   // Piece 6 alone is neither a stub nor linked: at 60 mm it is yellow, (255, 220, 60).
-  EXPECT_EQ(BedOrder(layout), (std::vector<int>{1, 3, 5, 0, 2, 4, 255}));
+  EXPECT_EQ(StubOrder(layout), (std::vector<int>{1, 3, 5, 0, 2, 4, 255}));
 }
 
 TEST(ContentsHelix, LinkedTrackWithAGradeShowsItsHeight) {
@@ -194,7 +193,7 @@ TEST(ContentsHelix, LinkedTrackWithAGradeShowsItsHeight) {
   for (Piece& piece : layout.pieces) piece.z = piece.id == 1 ? 0.0 : 60.0;
   layout.pieces[2].grade = 2.0;   // piece 3, below
   layout.pieces[3].grade = -2.0;  // piece 4, above
-  EXPECT_EQ(BedOrder(layout), (std::vector<int>{1, 255, 5, 0, 2, 255, 255}));
+  EXPECT_EQ(StubOrder(layout), (std::vector<int>{1, 255, 5, 0, 2, 255, 255}));
 }
 
 TEST(ContentsHelix, JointsToNowhereAndRingsOfTrackEndTheWalk) {

@@ -8,8 +8,6 @@ namespace {
 
 using namespace contents_test;
 
-const Rgba kSelectedFill{180, 200, 230};
-const Rgba kBoardFill{245, 235, 210};
 const Rgba kBoardEdge{120, 90, 50};
 
 SceneryItem Item(std::int32_t id, double x, double y) {

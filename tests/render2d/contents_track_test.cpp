@@ -8,8 +8,6 @@ namespace {
 using namespace contents_test;
 using Points = std::vector<wxPoint>;
 
-const Rgba kSelectedFill{180, 200, 230};
-
 // The red channels of the beds in drawing order.
 std::vector<int> BedOrder(const Layout& layout, const ViewTransform& view = kOneToOne) {
   std::vector<int> reds;

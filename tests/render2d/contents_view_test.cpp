@@ -4,7 +4,6 @@
 #include <wx/dcmemory.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -440,15 +439,13 @@ TEST(ContentsView, ARealDeviceSurvivesAnyNumbersAtTheScalesOfAWindow) {
   wxBitmap bitmap(kWindow.width, kWindow.height, 24);
   wxMemoryDC dc(bitmap);
   RenderContext context;
-  const auto start = std::chrono::steady_clock::now();
   for (const double value : kAbsurd) {
     const Layout layout = AbsurdPlan(value);
     for (const double scale : {0.05, 0.4, 20.0})
       for (const double offset : {60.0, 1e6, -1e9, 1e300, kInf, std::nan("")})
         DrawLayoutContents(context, dc, layout, {scale, offset, -offset}, kWindow);
   }
-  // About 200 paints of some milliseconds each.
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60));
+  // About 200 paints of some milliseconds each: if one of them doesn't end, neither does the test.
   EXPECT_TRUE(dc.IsOk());
 }
 
@@ -469,9 +466,7 @@ TEST(ContentsView, ABaseboardOfAMillionVerticesIsPaintedAtOnce) {
   }
   // The edges are 31 mm long: all of them have a length, but only those near the window are
   // written.
-  const auto start = std::chrono::steady_clock::now();
   const auto calls = Painted(layout, {1.0, 200.0 - 5e6, 150.0}, kWindow);
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
   EXPECT_EQ(OfOp(calls, DrawOp::polygon).size(), 2u);
   const std::size_t lengths = Texts(calls, "31 mm").size();
   EXPECT_GE(lengths, 9u);

@@ -176,9 +176,9 @@ TEST(Rulers, LabelsOfThePlanLeaveNoGroundBehindTheRulersLabels) {
 }
 
 TEST(Rulers, AnyViewIsPaintedInBoundedWork) {
-  constexpr double kInf = std::numeric_limits<double>::infinity();
-  const double odd[] = {0.0,   -1.0,  1e-300, 1e-9, 1.0,   20.0,        1e17,
-                        1e300, 1e308, -1e308, kInf, -kInf, std::nan("")};
+  constexpr double kEndless = std::numeric_limits<double>::infinity();
+  const double odd[] = {0.0,   -1.0,  1e-300, 1e-9,     1.0,       20.0,        1e17,
+                        1e300, 1e308, -1e308, kEndless, -kEndless, std::nan("")};
   for (const double scale : odd)
     for (const double offset : odd)
       for (const std::int32_t units : {kMillimetres, kCentimetres, kInches}) {

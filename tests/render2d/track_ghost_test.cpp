@@ -14,7 +14,7 @@ constexpr Rgba kGhost{200, 225, 200};
 constexpr Rgba kGhostBranch{185, 210, 190};  // 200 - 15, 225 - 15, 200 - 10
 constexpr Rgba kGhostEdge{80, 150, 80};
 
-const PieceDef& Row(const char* part) {
+const PieceDef& RowOf(const char* part) {
   const PieceDef* def = findPart(part);
   if (def == nullptr) throw std::runtime_error(std::string("no row ") + part);
   return *def;
@@ -28,7 +28,7 @@ std::vector<DrawCall> ShapeOf(std::vector<DrawCall> calls) {
 
 TEST(Ghost, IsGreenForEverySystem) {
   for (const char* part : {"24188", "2200", "8500", "62188"}) {
-    const std::vector<DrawCall> calls = GhostCalls(Row(part));
+    const std::vector<DrawCall> calls = GhostCalls(RowOf(part));
     ASSERT_EQ(OpsOf(calls), std::vector<DrawOp>{polygon}) << part;
     EXPECT_EQ(calls[0].brush, SolidBrush(kGhost));
     EXPECT_EQ(calls[0].pen, SolidPen(kGhostEdge, 1));
@@ -55,25 +55,26 @@ TEST(Ghost, HasTheShapeOfThePlacedPieceWhereNothingElseIsTold) {
 }
 
 TEST(Ghost, OfATurnoutHasADarkerBranch) {
-  EXPECT_EQ(FillsOf(ShapeOf(GhostCalls(Row("24612")))), (std::vector<Rgba>{kGhost, kGhostBranch}));
-  EXPECT_EQ(FillsOf(ShapeOf(GhostCalls(Row("24630")))),
+  EXPECT_EQ(FillsOf(ShapeOf(GhostCalls(RowOf("24612")))),
+            (std::vector<Rgba>{kGhost, kGhostBranch}));
+  EXPECT_EQ(FillsOf(ShapeOf(GhostCalls(RowOf("24630")))),
             (std::vector<Rgba>{kGhostBranch, kGhostBranch, kGhost}));
 }
 
 TEST(Ghost, OfABridgeHasNoArch) {
   for (const char* part : {"74636", "74620", "74618", "74613", "8977"})
-    EXPECT_EQ(OpsOf(GhostCalls(Row(part))), std::vector<DrawOp>{polygon}) << part;
+    EXPECT_EQ(OpsOf(GhostCalls(RowOf(part))), std::vector<DrawOp>{polygon}) << part;
 }
 
 TEST(Ghost, KeepsBarsMarksAndBumpers) {
-  EXPECT_EQ(OpsOf(GhostCalls(Row("24994"))), (std::vector<DrawOp>{polygon, polygon}));
-  EXPECT_EQ(OpsOf(GhostCalls(Row("24997"))), (std::vector<DrawOp>{polygon, polygon}));
-  EXPECT_EQ(OpsOf(GhostCalls(Row("24294"))), (std::vector<DrawOp>{polygon, rectangle}));
-  EXPECT_EQ(OpsOf(GhostCalls(Row("24977"))), (std::vector<DrawOp>{polygon, line}));
+  EXPECT_EQ(OpsOf(GhostCalls(RowOf("24994"))), (std::vector<DrawOp>{polygon, polygon}));
+  EXPECT_EQ(OpsOf(GhostCalls(RowOf("24997"))), (std::vector<DrawOp>{polygon, polygon}));
+  EXPECT_EQ(OpsOf(GhostCalls(RowOf("24294"))), (std::vector<DrawOp>{polygon, rectangle}));
+  EXPECT_EQ(OpsOf(GhostCalls(RowOf("24977"))), (std::vector<DrawOp>{polygon, line}));
 }
 
 TEST(Ghost, OfACurvedTurnoutIsTwoArcsWithoutALink) {
-  const PieceDef& def = Row("24772");
+  const PieceDef& def = RowOf("24772");
   const std::vector<DrawCall> calls = ShapeOf(GhostCalls(def));
   ASSERT_EQ(OpsOf(calls), (std::vector<DrawOp>{polygon, polygon}));
   EXPECT_EQ(calls[0].points, ArcBedPolygon({}, def, kPlainView, 1));
@@ -82,7 +83,7 @@ TEST(Ghost, OfACurvedTurnoutIsTwoArcsWithoutALink) {
 }
 
 TEST(Ghost, OfACurvedTurnoutMovesItsSecondArcBackWhenItsThirdEndLiesBehind) {
-  PieceDef def = Row("24772");
+  PieceDef def = RowOf("24772");
   std::swap(def.connectors[1].x, def.connectors[2].x);
   const std::vector<DrawCall> calls = ShapeOf(GhostCalls(def));
   ASSERT_EQ(calls.size(), 2u);
@@ -90,7 +91,7 @@ TEST(Ghost, OfACurvedTurnoutMovesItsSecondArcBackWhenItsThirdEndLiesBehind) {
 }
 
 TEST(Ghost, OfACurvedTurnoutThatHardlyDivergesIsAStraightBedAndTwoArcs) {
-  PieceDef def = Row("24772");
+  PieceDef def = RowOf("24772");
   def.connectors[1].y = 5.0;
   const auto expectFallback = [&] {
     const std::vector<DrawCall> calls = ShapeOf(GhostCalls(def));
@@ -108,7 +109,7 @@ TEST(Ghost, OfACurvedTurnoutThatHardlyDivergesIsAStraightBedAndTwoArcs) {
 }
 
 TEST(Ghost, OfADoubleSlipHasBrighterSlips) {
-  const std::vector<DrawCall> calls = ShapeOf(GhostCalls(Row("24624")));
+  const std::vector<DrawCall> calls = ShapeOf(GhostCalls(RowOf("24624")));
   ASSERT_EQ(calls.size(), 10u);
   EXPECT_EQ(calls[1].brush, SolidBrush({192, 217, 196}));
   const Rgba slip{210, 235, 218};
@@ -118,7 +119,7 @@ TEST(Ghost, OfADoubleSlipHasBrighterSlips) {
 }
 
 TEST(Ghost, OfATurntableIsATransparentDeckAPitAndABridge) {
-  const std::vector<DrawCall> calls = GhostCalls(Row("74861"));
+  const std::vector<DrawCall> calls = GhostCalls(RowOf("74861"));
   ASSERT_EQ(OpsOf(calls), (std::vector<DrawOp>{ellipse, ellipse, line}));
   EXPECT_EQ(calls[0].circleRadius(), 189);
   EXPECT_EQ(calls[0].brush, SolidBrush({220, 215, 210, 180}));
@@ -141,7 +142,7 @@ TEST(Ghost, OnlyPiecesWithMoreThanOneRouteShowTheirEndsAndAllAreFree) {
                                    PieceKind::Crossing,      PieceKind::OuterCurveTurnout};
   for (const char* part :
        {"24188", "24130", "24611", "24612", "24672", "24624", "24977", "24640", "2269"}) {
-    const PieceDef& def = Row(part);
+    const PieceDef& def = RowOf(part);
     std::size_t dots = 0;
     for (const DrawCall& call : GhostCalls(def)) {
       if (!call.isCircle()) continue;
@@ -153,9 +154,9 @@ TEST(Ghost, OnlyPiecesWithMoreThanOneRouteShowTheirEndsAndAllAreFree) {
 }
 
 TEST(Ghost, HasNoDotsBelowScale0Point2) {
-  EXPECT_EQ(OpsOf(GhostCalls(Row("24612"), {}, {0.19, 0.0, 0.0})),
+  EXPECT_EQ(OpsOf(GhostCalls(RowOf("24612"), {}, {0.19, 0.0, 0.0})),
             (std::vector<DrawOp>{polygon, polygon}));
-  EXPECT_EQ(GhostCalls(Row("24612"), {}, {0.2, 0.0, 0.0}).size(), 5u);
+  EXPECT_EQ(GhostCalls(RowOf("24612"), {}, {0.2, 0.0, 0.0}).size(), 5u);
 }
 
 }  // namespace

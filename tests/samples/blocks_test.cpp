@@ -121,13 +121,13 @@ TEST_P(SampleBlocks, AreOneChainOfJointsThatMeetAndAreStoredOnBothSides) {
   EXPECT_EQ(reached.size(), pieces_);
 }
 
-std::string TestNameOf(const testing::TestParamInfo<fs::path>& block) {
+std::string BlockNameOf(const testing::TestParamInfo<fs::path>& block) {
   std::string name = block.param.stem().string();
   std::erase_if(name, [](unsigned char c) { return std::isalnum(c) == 0; });
   return name;
 }
 
-INSTANTIATE_TEST_SUITE_P(All, SampleBlocks, testing::ValuesIn(BlockFiles()), TestNameOf);
+INSTANTIATE_TEST_SUITE_P(All, SampleBlocks, testing::ValuesIn(BlockFiles()), BlockNameOf);
 
 int OpenEnds(const std::string& file) {
   std::string name;

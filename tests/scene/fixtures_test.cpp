@@ -18,19 +18,19 @@ constexpr Rgb kRedSide{0.62F, 0.06F, 0.06F};
 constexpr Rgb kArmSide{0.5F, 0.5F, 0.5F};
 constexpr Rgb kBlackSide{0.07F, 0.07F, 0.07F};
 
-Model ModelOf(const char* part) {
+Model FixtureOf(const char* part) {
   return makeTrackModel(*findPart(part));
 }
 
 TEST(TurntableModel, HasARoundFloorOf48Sectors) {
-  const Mesh floor = PartIn(ModelOf("74861"), kPitFloor);
+  const Mesh floor = PartIn(FixtureOf("74861"), kPitFloor);
   EXPECT_EQ(TriangleCount(floor), 48U);
   ExpectBounds(floor, {-139, -139, 0.1F}, {139, 139, 0.1F});
   for (const Vec3f& normal : floor.normals) EXPECT_EQ(normal, (Vec3f{0, 0, 1}));
 }
 
 TEST(TurntableModel, ShowsItsRingWallToTheInside) {
-  const Mesh wall = PartOf(ModelOf("74861"), [](const Triangle& t) {
+  const Mesh wall = PartOf(FixtureOf("74861"), [](const Triangle& t) {
     return t.colour == kRing && t.normals[0].z < 0.5F;
   });
   EXPECT_EQ(TriangleCount(wall), 96U);
@@ -40,7 +40,7 @@ TEST(TurntableModel, ShowsItsRingWallToTheInside) {
 }
 
 TEST(TurntableModel, HasARimHalfwayToTheStubs) {
-  const Mesh rim = PartOf(ModelOf("74861"), [](const Triangle& t) {
+  const Mesh rim = PartOf(FixtureOf("74861"), [](const Triangle& t) {
     return t.colour == kRing && t.normals[0].z > 0.5F;
   });
   EXPECT_EQ(TriangleCount(rim), 96U);
@@ -50,14 +50,14 @@ TEST(TurntableModel, HasARimHalfwayToTheStubs) {
 }
 
 TEST(TurntableModel, BridgesThePitAlongX) {
-  const Mesh bridge = PartIn(ModelOf("74861"), kTurntableBridge);
+  const Mesh bridge = PartIn(FixtureOf("74861"), kTurntableBridge);
   ExpectClosed(bridge);
   ExpectBounds(bridge, {-137, -18, 8.5F}, {137, 18, 12.5F});
-  EXPECT_TRUE(PartIn(ModelOf("74861"), kRailTop).empty());
+  EXPECT_TRUE(PartIn(FixtureOf("74861"), kRailTop).empty());
 }
 
 TEST(EndStop, StandsOnAStripOfTwoSegments) {
-  const Model model = ModelOf("62977");
+  const Model model = FixtureOf("62977");
   ExpectSound(model);
   const Mesh top = PartIn(model, kBallastTop);
   ExpectBounds(top, {0, -18.7F, 2}, {80.5F, 18.7F, 2});
@@ -66,7 +66,7 @@ TEST(EndStop, StandsOnAStripOfTwoSegments) {
 
 // 24977 is 48.3 mm long, so that f is 0.75 x 48.3 - 0.07 x 18.7 = 34.916.
 TEST(EndStop, PutsItsBeamAtThreeQuartersOfTheLength) {
-  const Model model = ModelOf("24977");
+  const Model model = FixtureOf("24977");
   // x from 34.916, 0.14 w = 2.618 thick; y to either side by 1.05 w; z from 0.31 w to 0.69
   // w.
   ExpectBounds(PartIn(model, kBeamSide), {34.916F, -19.635F, 5.797F}, {37.534F, 19.635F, 12.903F});
@@ -76,7 +76,7 @@ TEST(EndStop, PutsItsBeamAtThreeQuartersOfTheLength) {
 }
 
 TEST(EndStop, ReachesOutTwoBuffersBeforeTheBeam) {
-  const Model model = ModelOf("24977");
+  const Model model = FixtureOf("24977");
   // Arms 0.55 w = 10.285 long; their sides at w plus and minus 0.44 w, 0.16 w thick: out to 0.52 w.
   ExpectBounds(PartIn(model, kArmSide), {24.631F, -9.724F, 7.854F}, {34.916F, 9.724F, 10.846F});
   // Heads and struts: the heads' faces 0.75 w = 14.025 before f; the struts' feet at z 0, their
@@ -87,7 +87,7 @@ TEST(EndStop, ReachesOutTwoBuffersBeforeTheBeam) {
 }
 
 TEST(EndStop, IsBuiltOfEightClosedBoxes) {
-  const Mesh boxes = PartOf(ModelOf("24977"), [](const Triangle& t) {
+  const Mesh boxes = PartOf(FixtureOf("24977"), [](const Triangle& t) {
     for (const Rgb track :
          {kBallastTop, kBallastSide, kRailTop, kRailSide, kSleeperTop, kSleeperSide})
       if (t.colour == track) return false;
@@ -99,13 +99,13 @@ TEST(EndStop, IsBuiltOfEightClosedBoxes) {
 
 TEST(EndStop, IsNarrowerOnZTrack) {
   // w is 6 and the length 15: f = 11.25 - 0.42 = 10.83. Only the stop is narrower.
-  const Model model = ModelOf("8991");
+  const Model model = FixtureOf("8991");
   ExpectBounds(PartIn(model, kBeamSide), {10.83F, -6.3F, 1.86F}, {11.67F, 6.3F, 4.14F});
   ExpectBounds(PartIn(model, kBallastTop), {0, -18.7F, 2}, {15, 18.7F, 2});
 }
 
 TEST(EndStop, IsAsWideOnKTrackAsOnCTrack) {
-  const Bounds beam = BoundsOf(PartIn(ModelOf("7389"), kBeamSide));
+  const Bounds beam = BoundsOf(PartIn(FixtureOf("7389"), kBeamSide));
   EXPECT_NEAR(beam.high.y, 19.635F, 1e-3F);
 }
 

@@ -149,4 +149,10 @@ inline void ExpectClosed(const Mesh& mesh) {
   EXPECT_GT(SignedVolume(mesh), 0.0);
 }
 
+inline double AreaOf(const Mesh& mesh) {
+  double area = 0.0;
+  for (const Triangle& triangle : TrianglesOf(mesh)) area += triangle.area();
+  return area;
+}
+
 }  // namespace vantrel

@@ -79,12 +79,6 @@ inline Vec3f MiddleOf(const Mesh& mesh, std::size_t first, std::size_t count) {
   return {static_cast<float>(x / n), static_cast<float>(y / n), static_cast<float>(z / n)};
 }
 
-inline double AreaOf(const Mesh& mesh) {
-  double area = 0.0;
-  for (const Triangle& triangle : TrianglesOf(mesh)) area += triangle.area();
-  return area;
-}
-
 inline void ExpectFiniteMesh(const Mesh& mesh) {
   const auto isFinite = [](float a, float b, float c) {
     return std::isfinite(a) && std::isfinite(b) && std::isfinite(c);

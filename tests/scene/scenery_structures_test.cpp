@@ -8,8 +8,8 @@ namespace vantrel {
 namespace {
 
 constexpr Rgb kDarkStone{0.4F, 0.37F, 0.33F};
-constexpr Rgb kStone{0.55F, 0.51F, 0.46F};
-constexpr Rgb kSteel{0.56F, 0.58F, 0.62F};
+constexpr Rgb kWallStone{0.55F, 0.51F, 0.46F};
+constexpr Rgb kGirderSteel{0.56F, 0.58F, 0.62F};
 constexpr Rgb kKeystone{0.62F, 0.57F, 0.5F};
 constexpr Rgb kStallWall{0.62F, 0.3F, 0.3F};
 constexpr Rgb kStallEnd{0.48F, 0.23F, 0.23F};
@@ -83,7 +83,7 @@ TEST(TurntablePitModel, IsARingOf24SegmentsWithATrackAcross) {
   const Mesh wall = PartIn(model, kDarkStone);
   ExpectBounds(wall, {-127.88F, -127.88F, 0}, {127.88F, 127.88F, 4});
   EXPECT_EQ(TriangleCount(wall), 24U * 4);  // outside and inside
-  ExpectBox(model, kSize, {0, 135, 0}, {278, 8, 3}, kSteel);
+  ExpectBox(model, kSize, {0, 135, 0}, {278, 8, 3}, kGirderSteel);
   ExpectBox(model, kSize, {133, 133, 0}, {12, 12, 4}, {0.3F, 0.38F, 0.55F});
 }
 
@@ -152,7 +152,7 @@ TEST(RetainingWallModel, HasACopingAndFiveButtressesInFront) {
   ExpectBox(model, kSize, {0, 0, 50}, {188, 30, 6}, {0.62F, 0.59F, 0.54F}, {0.5F, 0.47F, 0.43F});
   // As drawn: from 2 to 188 - 2 - 6 = 180 in four steps of 44.5.
   for (const float x : {2.0F, 46.5F, 91.0F, 135.5F, 180.0F})
-    ExpectBox(model, kSize, {x, 30, 0}, {6, 4, 48}, kStone);
+    ExpectBox(model, kSize, {x, 30, 0}, {6, 4, 48}, kWallStone);
 }
 
 constexpr Footprint kArchedPortal{40, 80};
@@ -173,11 +173,11 @@ TEST(ArchedPortalModel, ArchesTwelveBlocksOverTheOpening) {
   constexpr float kDepth = 6.6829F;
   // i = 0: 7.5 degrees, cos 0.991445, sin 0.130526: y 40 + 25.3810, z 44 + 3.3415. Stone, 0.8
   // proud at both ends.
-  ExpectBox(model, kArchedPortal, {-0.8F, 62.0395F, 47.3415F}, {41.6F, kDepth, 8}, kStone);
+  ExpectBox(model, kArchedPortal, {-0.8F, 62.0395F, 47.3415F}, {41.6F, kDepth, 8}, kWallStone);
   // i = 1: 22.5 degrees, cos 0.923880, sin 0.382683: y 63.6513, z 53.7967. Dark, 0.4 proud.
   ExpectBox(model, kArchedPortal, {-0.4F, 60.3098F, 53.7967F}, {40.8F, kDepth, 8}, kDarkStone);
   // i = 6: 97.5 degrees, cos -0.130526, sin 0.991445: y 36.6585, z 69.3810.
-  ExpectBox(model, kArchedPortal, {-0.8F, 33.3170F, 69.3810F}, {41.6F, kDepth, 8}, kStone);
+  ExpectBox(model, kArchedPortal, {-0.8F, 33.3170F, 69.3810F}, {41.6F, kDepth, 8}, kWallStone);
   // i = 11 mirrors i = 0 in the other stone: 80 - 62.0395 - 6.6829.
   ExpectBox(model, kArchedPortal, {-0.4F, 11.2776F, 47.3415F}, {40.8F, kDepth, 8}, kDarkStone);
 }
@@ -198,7 +198,7 @@ TEST(SquarePortalModel, FramesADarkOpening) {
   // The head of the frame lies over the opening from 45 to 55.
   ExpectBox(model, kSize, {0, 0, 45}, {80, 40, 10}, kFrameSide, kFrameTop);
   ExpectItemBounds(PartIn(model, kDark), kSize, {8, 8, 0}, {72, 32, 45});
-  ExpectItemBounds(PartIn(model, kStone), kSize, {6, 6, 44}, {74, 34, 52});
+  ExpectItemBounds(PartIn(model, kWallStone), kSize, {6, 6, 44}, {74, 34, 52});
   // In the middle of the front, 1 mm proud.
   ExpectItemBounds(PartIn(model, kKeystone), kSize, {36, 35, 50}, {44, 41, 58});
   ExpectBox(model, kSize, {0, 0, 0}, {10, 44, 42}, kFrameSide, kFrameTop);

@@ -44,12 +44,6 @@ inline Mesh PartWithin(const Mesh& mesh, Footprint footprint, Vec3f low, Vec3f h
   });
 }
 
-inline double AreaOf(const Mesh& mesh) {
-  double area = 0.0;
-  for (const Triangle& triangle : TrianglesOf(mesh)) area += triangle.area();
-  return area;
-}
-
 // Whether the six faces of a box with these item coordinates are all in the mesh: `sides` in one
 // colour, the top in another.
 inline void ExpectBox(const Mesh& mesh, Footprint footprint, Vec3f corner, Vec3f size, Rgb side,

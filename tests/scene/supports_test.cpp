@@ -10,7 +10,7 @@ namespace {
 
 constexpr Rgb kPierCap{0.68F, 0.65F, 0.62F};
 constexpr Rgb kLightWood{0.55F, 0.42F, 0.3F};
-constexpr Rgb kDarkWood{0.45F, 0.34F, 0.24F};
+constexpr Rgb kBeamWood{0.45F, 0.34F, 0.24F};
 
 TEST(Pier, IsAStadiumOf36By22) {
   Mesh mesh;
@@ -83,7 +83,7 @@ TEST(Post, IsSquareWithSidesInTwoAlternatingColours) {
   for (const Triangle& triangle : TrianglesOf(mesh)) {
     if (triangle.normals[0].z > 0.5F) continue;
     const bool acrossX = std::abs(triangle.normals[0].x) > 0.5F;
-    EXPECT_EQ(triangle.colour, acrossX ? kLightWood : kDarkWood);
+    EXPECT_EQ(triangle.colour, acrossX ? kLightWood : kBeamWood);
   }
 }
 

@@ -30,7 +30,7 @@ constexpr const char* kParts =
     "8977 8978 8979 89791 89805 89808 89835 89871 89881 89891 8991 8992 8993 8994 8995 8997 "
     "89971 89982 89983 8999 ";
 
-std::vector<std::string> Parts() {
+std::vector<std::string> PartsOfStore() {
   std::istringstream text(kParts);
   std::vector<std::string> parts;
   for (std::string part; text >> part;) parts.push_back(part);
@@ -39,18 +39,18 @@ std::vector<std::string> Parts() {
 
 TEST(StoreProducts, HaveTwoHundredAndFortyNineRowsWithoutAPartTwice) {
   EXPECT_EQ(storeProducts().rowCount(), 249u);
-  const std::vector<std::string> parts = Parts();
+  const std::vector<std::string> parts = PartsOfStore();
   EXPECT_EQ(parts.size(), 249u);
   EXPECT_EQ(std::set<std::string>(parts.begin(), parts.end()).size(), 249u);
 }
 
 TEST(StoreProducts, SellEveryPartOfTheTable) {
-  for (const std::string& part : Parts()) EXPECT_TRUE(IsSold(part)) << part;
+  for (const std::string& part : PartsOfStore()) EXPECT_TRUE(IsSold(part)) << part;
 }
 
 TEST(StoreProducts, HaveAnIdOfFourteenDigitsOfItsOwnForEachPart) {
   std::set<std::string> ids;
-  for (const std::string& part : Parts()) {
+  for (const std::string& part : PartsOfStore()) {
     const std::string id(storeProducts().productId(part));
     EXPECT_EQ(id.size(), 14u) << part;
     EXPECT_EQ(id.find_first_not_of("0123456789"), std::string::npos) << part;
