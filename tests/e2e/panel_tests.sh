@@ -209,9 +209,9 @@ test_a_run_is_coloured_and_let_go_of() {
   at 300 300
   click
   # All of the first two, not the third, by a band, which takes what lies in it or touches it.
-  at 500 500
+  at 50 500
   press
-  at 900 700
+  at 450 700
   release
   settle
   picture run_page
