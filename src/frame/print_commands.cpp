@@ -15,6 +15,7 @@
 #include "print/layout_printout.h"
 #include "print/pages/pagination.h"
 #include "print/preview_frame.h"
+#include "print/print_progress.h"
 
 namespace vantrel {
 namespace {
@@ -93,6 +94,10 @@ void MainFrame::onPrint(wxCommandEvent&) {
     // Pages are drawn in an event loop of their own: nobody may edit or close the plan beneath it.
     const wxWindowDisabler noEvents;
     const wxLogNull quiet;  // the toolkit would tell a problem in a box of its own as well
+    PrintProgress progress(
+        this, [&printer] { cancelPrintJob(printer.GetPrintDialogData().GetPrintData()); });
+    printout.watchSheets(
+        [&progress](int number, int count) { return progress.sheet(number, count); });
     done = printer.Print(this, &printout, true);
   }
   notePrinted(this, done, printer.GetPrintDialogData().GetPrintData());

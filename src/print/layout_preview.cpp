@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "print/layout_printout.h"
+#include "print/print_progress.h"
 
 namespace vantrel {
 
@@ -29,8 +30,16 @@ bool LayoutPreview::Print(bool interactive) {
   {
     const wxWindowDisabler noEvents;
     const wxLogNull quiet;  // who is told of a problem tells it in its own words
+    PrintProgress progress(
+        GetFrame(), [&printer] { cancelPrintJob(printer.GetPrintDialogData().GetPrintData()); });
+    auto* const printout = dynamic_cast<LayoutPrintout*>(GetPrintoutForPrinting());
+    if (printout != nullptr)
+      printout->watchSheets(
+          [&progress](int number, int count) { return progress.sheet(number, count); });
     done = printer.Print(GetFrame(), GetPrintoutForPrinting(), interactive);
   }
+  if (auto* const printout = dynamic_cast<LayoutPrintout*>(GetPrintoutForPrinting()))
+    printout->watchSheets({});
   const wxPrintData& chosen = printer.GetPrintDialogData().GetPrintData();
   if (done) GetPrintDialogData().SetPrintData(chosen);
   printing_.printed(done, chosen);

@@ -53,13 +53,14 @@ LayoutPrintout::~LayoutPrintout() {
 // The print dialog's own preview prepares the same printout once more.
 void LayoutPrintout::OnPreparePrinting() {
   putLevelsBack();
+  stopped_ = false;
   showLevels();
   bounds_ = boundsOfPrint(*layout_, options_);
   paginateFor(pageSize());
 }
 
 bool LayoutPrintout::HasPage(int page) {
-  return page >= 1 && page <= pages_.pageCount();
+  return !stopped_ && page >= 1 && page <= pages_.pageCount();
 }
 
 bool LayoutPrintout::OnPrintPage(int page) {
@@ -71,6 +72,11 @@ bool LayoutPrintout::OnPrintPage(int page) {
   }
   if (size != lastPage()) paginateFor(size);
   if (!HasPage(page)) {
+    putLevelsBack();
+    return false;
+  }
+  if (!IsPreview() && watcher_ && !watcher_(page, pages_.pageCount())) {
+    stopped_ = true;
     putLevelsBack();
     return false;
   }

@@ -4,6 +4,9 @@
 #include <wx/bitmap.h>
 #include <wx/prntbase.h>
 
+#include <functional>
+#include <utility>
+
 #include "doc/layout.h"
 #include "print/pages/pagination.h"
 #include "print/pages/print_options.h"
@@ -29,6 +32,11 @@ class LayoutPrintout : public wxPrintout {
 
   const Pagination& pages() const { return pages_; }
 
+  // Is asked before each sheet that goes on paper; after a false none does any more. Previews don't
+  // ask.
+  using SheetWatcher = std::function<bool(int number, int count)>;
+  void watchSheets(SheetWatcher watcher) { watcher_ = std::move(watcher); }
+
  protected:
   // What a page in grey is first drawn on. Not OK when it would take more memory than is sensible,
   // or when there is none.
@@ -47,6 +55,8 @@ class LayoutPrintout : public wxPrintout {
   ViewTransform viewOn(wxDC& dc, int page) const;
   int resolution() const;
 
+  SheetWatcher watcher_;
+  bool stopped_ = false;
   Layout* layout_;
   const PrintOptions options_;
   PrintBounds bounds_;

@@ -7,6 +7,7 @@
 #include <wx/log.h>
 #include <wx/module.h>
 #include <wx/print.h>
+#include <wx/progdlg.h>
 #include <wx/radiobox.h>
 #include <wx/spinctrl.h>
 #include <wx/textctrl.h>
@@ -18,6 +19,7 @@
 
 #include "print/layout_printout.h"
 #include "tests/frame/frame_fixture.h"
+#include "tests/support/recording_dc.h"
 
 namespace vantrel {
 namespace {
@@ -269,6 +271,62 @@ TEST_F(Printing, UsesTheOptionsThatTheDialogHasJustGot) {
   EXPECT_EQ(pages, 819);
   EXPECT_EQ(frame().printOptions().mode, kActualScale);
   EXPECT_EQ(frame().printOptions().scaleN, 1);
+}
+
+wxProgressDialog* ProgressWindow() {
+  for (wxWindow* window : wxTopLevelWindows)
+    if (auto* progress = dynamic_cast<wxProgressDialog*>(window)) return progress;
+  return nullptr;
+}
+
+TEST_F(Printing, OfManySheetsTellsWhichOneItIsAtAndEndsWhenTheUserCancels) {
+  showFrame();
+  // At 1:1 a letter sheet shows 257.05 by 198.6 mm: 24 sheets, 6 by 4.
+  plan().baseboard = {{0, 0}, {1500, 0}, {1500, 780}, {0, 780}};
+  printer_.outcome = wxPRINTER_CANCELLED;
+  RecordingDC dc({3300, 2550}, 300);
+  int printed = 0;
+  printer_.run = [&](wxPrintout& printout) {
+    printout.SetPageSizePixels(3300, 2550);
+    printout.SetPPIPrinter(300, 300);
+    printout.SetDC(&dc);
+    printout.OnPreparePrinting();
+    for (int page = 1; printout.HasPage(page); ++page) {
+      printed += printout.OnPrintPage(page) ? 1 : 0;
+      wxProgressDialog* progress = ProgressWindow();
+      if (page < 3) {
+        ASSERT_NE(progress, nullptr);
+        EXPECT_EQ(progress->GetMessage(), "Sheet " + std::to_string(page) + " of 24");
+      }
+      if (page != 2) continue;
+      wxWindow* cancel = progress->FindWindow(wxID_CANCEL);
+      ASSERT_NE(cancel, nullptr);
+      wxCommandEvent press(wxEVT_BUTTON, wxID_CANCEL);
+      press.SetEventObject(cancel);
+      cancel->HandleWindowEvent(press);
+    }
+  };
+  ModalScript script;
+  script.shown("Print Options", ChooseFullSize);
+  command(5010);
+  EXPECT_EQ(printed, 2);
+  EXPECT_EQ(ProgressWindow(), nullptr);
+  EXPECT_TRUE(frame().IsEnabled());
+}
+
+TEST_F(Printing, OfFewSheetsNeedsNoProgress) {
+  RecordingDC dc({3300, 2550}, 300);
+  printer_.run = [&](wxPrintout& printout) {
+    printout.SetPageSizePixels(3300, 2550);
+    printout.SetDC(&dc);
+    printout.OnPreparePrinting();
+    EXPECT_TRUE(printout.OnPrintPage(1));
+    EXPECT_EQ(ProgressWindow(), nullptr);
+  };
+  ModalScript script;
+  script.dialog("Print Options", wxID_OK);
+  command(5010);
+  EXPECT_EQ(printer_.prints, 1);
 }
 
 // The view at scale 1 has its origin at pixel (60, 60).
