@@ -25,6 +25,24 @@ enum class PieceKind : std::int32_t {
   OuterCurveTurnout = 11  // curved turnout of the K and Z families
 };
 
+// What a piece is for beside carrying trains. All but `plain` are no filling for a gap.
+enum class PieceRole : std::uint8_t {
+  plain,
+  circuit,  // switches something when a train passes
+  contact,
+  uncoupler,
+  feeder,
+  isolating,
+  adapter,  // joins another system
+  turntable,
+  spoke  // the way from a turntable's rim into its surroundings
+};
+
+enum class BridgeForm : std::uint8_t { none, arch, truss, ramp };
+
+// What is drawn on the bed to tell it from a plain one.
+enum class TrackMark : std::uint8_t { none, circuitBar, uncouplerBar, contactPlate };
+
 // One connection point, in the piece's local frame: +x along the piece, +y to its right.
 struct Connector {
   double x = 0.0;        // mm
@@ -51,6 +69,14 @@ struct PieceDef {
   bool isRamp = false;    // a ramp: isBridge too, but a grade runs over it
   // Per-connector override of `system`, by connector index; usually empty.
   std::vector<std::int32_t> connectorSystems;
+  PieceRole role = PieceRole::plain;
+  BridgeForm bridgeForm = BridgeForm::none;  // `isBridge` and `isRamp` say the same in short
+  TrackMark mark = TrackMark::none;
+
+  // A plain straight, of which rows of track may be put together.
+  bool fillsGaps() const {
+    return kind == PieceKind::Straight && length > 0.0 && !isBridge && role == PieceRole::plain;
+  }
 };
 
 }  // namespace vantrel

@@ -160,8 +160,10 @@ SceneryDef TunnelPortalSingle() {
   for (const double y : {kMiddle - kOuter, kMiddle + kInner})
     art.push_back(
         FilledRect({kSpringing, y, kFoot - kSpringing, kOuter - kInner}, kConcrete, kOutline));
-  return MakeItem("tunnel_portal_single", "Tunnel portal (1 track)", kTunnels, 40, 80,
-                  std::move(art));
+  SceneryDef def =
+      MakeItem("tunnel_portal_single", "Tunnel portal (1 track)", kTunnels, 40, 80, std::move(art));
+  def.role = SceneryRole::tunnelPortal;
+  return def;
 }
 
 SceneryDef RetainingWall() {

@@ -1,5 +1,6 @@
 #include "catalog/scenery_catalog.h"
 
+#include <algorithm>
 #include <string_view>
 #include <unordered_map>
 
@@ -47,6 +48,12 @@ const std::vector<SceneryDef>& sceneryCatalog() {
 const SceneryDef* findScenery(std::string_view id) {
   const auto found = Instance().indexById.find(id);
   return found == Instance().indexById.end() ? nullptr : &Instance().rows[found->second];
+}
+
+const SceneryDef* findScenery(SceneryRole role) {
+  const std::vector<SceneryDef>& rows = sceneryCatalog();
+  const auto found = std::ranges::find(rows, role, &SceneryDef::role);
+  return found == rows.end() ? nullptr : &*found;
 }
 
 std::string_view SceneryCategoryName(std::int32_t category) {

@@ -15,6 +15,9 @@ const std::vector<SceneryDef>& sceneryCatalog();
 // The item with this id, or null.
 const SceneryDef* findScenery(std::string_view id);
 
+// The first item with this role, or null.
+const SceneryDef* findScenery(SceneryRole role);
+
 // "Platforms" for 0 and so on; "Other" for 10 and any value without a name.
 std::string_view SceneryCategoryName(std::int32_t category);
 

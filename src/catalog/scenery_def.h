@@ -59,6 +59,14 @@ enum SceneryCategory : std::int32_t {
   kOther = 10
 };
 
+// What an item does beside standing there.
+enum class SceneryRole : std::uint8_t {
+  plain,
+  turntablePit,  // a roundhouse turns to the nearest one
+  roundhouse,
+  tunnelPortal  // set at both ends of a tunnel
+};
+
 struct SceneryDef {
   std::string id;    // the key
   std::string name;  // palette text
@@ -68,6 +76,7 @@ struct SceneryDef {
   bool standsOnGround = true;
   bool forZ = false;                       // a signal for Z-Track
   std::vector<ScenePrimitive> primitives;  // in drawing order
+  SceneryRole role = SceneryRole::plain;
 };
 
 }  // namespace vantrel

@@ -37,7 +37,10 @@ SceneryDef TurntablePit() {
   art.push_back(FilledRect({204, 98, 36, 23}, kRoofRed, kOutline));
   art.push_back(FilledRect({208, 102, 28, 15}, kRoofBrown, kOutline));
   art.push_back(FilledEllipse({kMiddle - 6, kMiddle - 6, 12, 12}, kTruckBlue, kOutline));
-  return MakeItem("74861", "Turntable 74861 (pit 278mm)", kSpecial, 278, 278, std::move(art));
+  SceneryDef def =
+      MakeItem("74861", "Turntable 74861 (pit 278mm)", kSpecial, 278, 278, std::move(art));
+  def.role = SceneryRole::turntablePit;
+  return def;
 }
 
 // A stall of the roundhouse around the centre of its turntable, which lies beyond the front.
@@ -87,7 +90,10 @@ SceneryDef Roundhouse() {
     art.push_back(stall.patch(604, 648, -14, 14, kConcrete, kOutline));
     art.push_back(stall.patch(612, 640, -7, 7, kOutline, kOutline));
   }
-  return MakeItem("72886", "Roundhouse 72886 (3-stall)", kOther, 386, 343, std::move(art));
+  SceneryDef def =
+      MakeItem("72886", "Roundhouse 72886 (3-stall)", kOther, 386, 343, std::move(art));
+  def.role = SceneryRole::roundhouse;
+  return def;
 }
 
 SceneryDef WaterTower() {

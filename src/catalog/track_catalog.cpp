@@ -96,9 +96,12 @@ PieceDef BuildRow(TrackSystem system, const TrackRow& row) {
 
 PieceDef FinishedRow(TrackSystem system, const TrackRow& row) {
   PieceDef def = BuildRow(system, row);
-  def.isBridge = row.bridge;
+  def.isBridge = row.bridge != BridgeForm::none;
   def.isPaired = row.paired;
-  def.isRamp = row.ramp;
+  def.isRamp = row.bridge == BridgeForm::ramp;
+  def.bridgeForm = row.bridge;
+  def.role = row.role;
+  def.mark = row.mark;
   if (row.maker != RowMaker::turnout) {  // that builder has counts of its own
     def.spareCountA = row.spareCountA;
     def.spareCountB = row.spareCountB;
@@ -154,6 +157,14 @@ const TrackCatalog& catalog() {
 
 const PieceDef* findPart(std::string_view part) {
   return catalog().findPart(part);
+}
+
+const PieceDef* findPart(TrackSystem system, PieceRole role) {
+  for (std::int32_t i = 0; i < catalog().pieceCount(); ++i) {
+    const PieceDef& def = *catalog().pieceAt(i);
+    if (def.system == system && def.role == role) return &def;
+  }
+  return nullptr;
 }
 
 std::int32_t connectorSystem(const PieceDef& def, std::size_t i) {

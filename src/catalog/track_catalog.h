@@ -42,6 +42,9 @@ const TrackCatalog& catalog();
 // Short for catalog().findPart(part).
 const PieceDef* findPart(std::string_view part);
 
+// The first row of the system with this role, or null.
+const PieceDef* findPart(TrackSystem system, PieceRole role);
+
 // The system that connector `i` joins: the override of that connector, or the piece's own system.
 std::int32_t connectorSystem(const PieceDef& def, std::size_t i);
 

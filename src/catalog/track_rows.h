@@ -38,9 +38,10 @@ struct TrackRow {
   double length = 0.0;                   // mm
   double radius = 0.0;                   // mm
   double angle = 0.0;                    // degrees, as stored for `listed`
-  bool bridge = false;
+  BridgeForm bridge = BridgeForm::none;
   bool paired = false;
-  bool ramp = false;
+  PieceRole role = PieceRole::plain;
+  TrackMark mark = TrackMark::none;
   // `listed` only: the connectors after connector 0, which always lies at (0, 0) heading 180.
   int extraConnectors = 0;
   std::array<RowConnector, 3> extra{};

@@ -3,7 +3,6 @@
 #include <wx/dc.h>
 #include <wx/font.h>
 
-#include <string_view>
 #include <unordered_map>
 
 #include "catalog/track_catalog.h"
@@ -14,8 +13,6 @@
 
 namespace vantrel {
 namespace {
-
-constexpr std::string_view kSpokeExtension = "74871";
 
 PieceIds CoveredPieces(const Layout& layout) {
   PieceIds covered;
@@ -87,7 +84,7 @@ TrackPlan PrepareTrack(ContentsPaint& paint, const HelixPlan& helices) {
     if (def == nullptr || view.outOfView(piece, *def)) continue;
     const TrackJob job{&piece, def, !covered.empty() && covered.contains(piece.id)};
     (helices.isLow(piece) ? plan.low : plan.high).push_back(job);
-    if (piece.cat == kSpokeExtension) plan.spokeExtensions.push_back(job);
+    if (def->role == PieceRole::spoke) plan.spokeExtensions.push_back(job);
   }
   return plan;
 }

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string_view>
 
 #include "catalog/piece_builders.h"
 #include "catalog/routes.h"
@@ -14,9 +13,6 @@
 namespace vantrel {
 namespace {
 
-constexpr std::string_view kCircuitTrack = "24994";
-constexpr std::string_view kUncouplerTrack = "24997";
-constexpr std::string_view kContactCurve = "24294";
 constexpr double kArchPenMm = 1.5;
 constexpr double kCurvedArchShare = 0.22;  // of the curve's radius
 constexpr double kBarHalfWidthMm = 4.0;
@@ -89,14 +85,14 @@ void DrawBumper(const TrackPaint& paint) {
 
 void drawStraightExtras(const TrackPaint& paint) {
   if (paint.def.isBridge && !paint.isGhost()) DrawStraightArch(paint);
-  if (paint.def.partNumber == kCircuitTrack) DrawBar(paint, kCircuitBarHalfLengthMm);
-  if (paint.def.partNumber == kUncouplerTrack) DrawBar(paint, kUncouplerBarHalfLengthMm);
+  if (paint.def.mark == TrackMark::circuitBar) DrawBar(paint, kCircuitBarHalfLengthMm);
+  if (paint.def.mark == TrackMark::uncouplerBar) DrawBar(paint, kUncouplerBarHalfLengthMm);
   if (paint.def.kind == PieceKind::TrackEnd) DrawBumper(paint);
 }
 
 void drawCurveExtras(const TrackPaint& paint) {
   if (paint.def.isBridge && !paint.isGhost()) DrawCurvedArch(paint);
-  if (paint.def.partNumber == kContactCurve) DrawContactMark(paint);
+  if (paint.def.mark == TrackMark::contactPlate) DrawContactMark(paint);
 }
 
 void drawTurntable(const TrackPaint& paint) {

@@ -3,12 +3,12 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "catalog/track_catalog.h"
 #include "shopping/store_products.h"
 
 namespace vantrel {
 namespace {
 
-constexpr const char* kSpoke = "74871";
 constexpr std::int32_t kSpokesPerPack = 3;
 
 // What one turnout asks for.
@@ -66,9 +66,11 @@ void AddSoldScenery(PieceCounts& counts, const Layout& layout) {
 }
 
 void PackSpokes(PieceCounts& counts) {
-  const auto spokes = counts.find(kSpoke);
-  if (spokes == counts.end()) return;
-  spokes->second = (spokes->second + kSpokesPerPack - 1) / kSpokesPerPack;
+  for (auto& [part, count] : counts) {
+    const PieceDef* const def = findPart(part);
+    if (def == nullptr || def->role != PieceRole::spoke) continue;
+    count = (count + kSpokesPerPack - 1) / kSpokesPerPack;
+  }
 }
 
 Accessories AccessoriesFor(const PieceCounts& counts) {

@@ -218,8 +218,9 @@ TEST(TrackEnd, TheBarTurnsWithThePiece) {
 }
 
 TEST(StraightExtras, FollowEachOtherInTheirOrder) {
-  PieceDef def = makeTrackEnd(TrackSystem::MarklinC, "24994", "", 50.0);
+  PieceDef def = makeTrackEnd(TrackSystem::MarklinC, "end", "", 50.0);
   def.isBridge = true;
+  def.mark = TrackMark::circuitBar;
   EXPECT_EQ(OpsOf(PlainCalls(def)), (std::vector<DrawOp>{polygon, ellipticArc, polygon, line}));
 }
 

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
 #include <utility>
 
 #include "catalog/track_catalog.h"
@@ -17,23 +16,6 @@ constexpr std::size_t kMostFills = 64;
 // From here on longer rows are no longer looked for.
 constexpr std::size_t kEnoughFills = 16;
 constexpr std::size_t kMostPieces = 32;
-
-// Straights by their looks, but made to join something else than track.
-constexpr std::array<std::string_view, 4> kSpecialParts = {"74871", "24922", "24951", "2291"};
-constexpr std::array<std::string_view, 6> kSpecialWords = {"Circuit", "Uncoupler", "Feeder",
-                                                           "Isolat",  "Contact",   "Adapter"};
-
-bool IsSpecial(const PieceDef& def) {
-  return std::ranges::find(kSpecialParts, def.partNumber) != kSpecialParts.end() ||
-         std::ranges::any_of(kSpecialWords, [&](std::string_view word) {
-           return def.description.find(word) != std::string::npos;
-         });
-}
-
-bool MayFill(const PieceDef& def, TrackSystem system) {
-  return def.system == system && def.kind == PieceKind::Straight && def.length > 0.0 &&
-         !def.isBridge && !IsSpecial(def);
-}
 
 // All rows of one number of pieces after the other, each row as rising numbers of candidates: so
 // none comes twice, and those with long pieces come first.
@@ -93,7 +75,7 @@ std::vector<const PieceDef*> fillCandidates(TrackSystem system) {
   std::vector<const PieceDef*> candidates;
   for (std::int32_t i = 0; i < catalog().pieceCount(); ++i) {
     const PieceDef& def = *catalog().pieceAt(i);
-    if (MayFill(def, system)) candidates.push_back(&def);
+    if (def.system == system && def.fillsGaps()) candidates.push_back(&def);
   }
   std::ranges::stable_sort(candidates, std::ranges::greater{}, &PieceDef::length);
   return candidates;

@@ -77,16 +77,16 @@ std::int32_t placePiece(Layout& layout, const PieceDef& def, const SnapResult& s
   const std::int32_t id = addPieceToLayout(layout, std::move(piece));
   if (snap.found)
     JoinNewPiece(layout, id, snap.ownConnector, snap.targetPiece, snap.targetConnector);
-  if (def.partNumber == kTurntablePart) addTurntableSpokes(layout, id);
+  if (def.role == PieceRole::turntable) addTurntableSpokes(layout, id);
   return id;
 }
 
 void addTurntableSpokes(Layout& layout, std::int32_t turntableId) {
-  const PieceDef* const tableDef = findPart(kTurntablePart);
-  const PieceDef* const spokeDef = findPart(kSpokePart);
   const Piece* const found = FindPiece(layout, turntableId);
-  if (tableDef == nullptr || spokeDef == nullptr || found == nullptr) return;
-  if (found->cat != kTurntablePart) return;
+  const PieceDef* const tableDef = found != nullptr ? findPart(found->cat) : nullptr;
+  if (tableDef == nullptr || tableDef->role != PieceRole::turntable) return;
+  const PieceDef* const spokeDef = findPart(tableDef->system, PieceRole::spoke);
+  if (spokeDef == nullptr) return;
 
   const Piece table = *found;  // `pieces` grows below
   for (const std::int32_t connector : kSpokeConnectors) {

@@ -11,10 +11,6 @@
 
 namespace vantrel {
 
-inline constexpr std::string_view kTurntablePart = "74861";
-inline constexpr std::string_view kSpokePart = "74871";
-inline constexpr std::string_view kRoundhouseItem = "72886";
-
 // Joins the new piece's `ownConnector` to a piece that stands, and takes over the height there.
 void JoinNewPiece(Layout& layout, std::int32_t newId, std::int32_t ownConnector,
                   std::int32_t targetId, std::int32_t targetConnector);

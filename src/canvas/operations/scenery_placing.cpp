@@ -26,7 +26,8 @@ struct NearestPit {
 NearestPit FindNearestPit(const Layout& layout, const Pose& pose) {
   NearestPit nearest;
   for (const SceneryItem& item : layout.scenery) {
-    if (item.item != kTurntablePart) continue;
+    const SceneryDef* const def = findScenery(item.item);
+    if (def == nullptr || def->role != SceneryRole::turntablePit) continue;
     const double dx = item.x - pose.x;
     const double dy = item.y - pose.y;
     const double distance = std::sqrt(dx * dx + dy * dy);
@@ -38,10 +39,10 @@ NearestPit FindNearestPit(const Layout& layout, const Pose& pose) {
 }  // namespace
 
 Pose sceneryDropPose(const Layout& layout, std::string_view item, const Pose& pose) {
-  if (item != kRoundhouseItem) return pose;
   const SceneryDef* const def = findScenery(item);
+  if (def == nullptr || def->role != SceneryRole::roundhouse) return pose;
   const NearestPit pit = FindNearestPit(layout, pose);
-  if (def == nullptr || pit.item == nullptr || !(pit.distance < kRoundhouseCatchMm)) return pose;
+  if (pit.item == nullptr || !(pit.distance < kRoundhouseCatchMm)) return pose;
 
   const double heading = std::round(pose.heading / kRoundhouseStepDegrees) * kRoundhouseStepDegrees;
   const double r = -(def->depth / 2.0 + kRoundhouseGapMm);

@@ -5,7 +5,7 @@
 #include <limits>
 #include <unordered_set>
 
-#include "canvas/operations/placing.h"
+#include "catalog/track_catalog.h"
 #include "doc/layout_ops.h"
 
 namespace vantrel {
@@ -13,6 +13,11 @@ namespace {
 
 // The position in `pieces` that stands for none.
 constexpr std::size_t kNowhere = std::numeric_limits<std::size_t>::max();
+
+bool IsTurntable(const Piece& piece) {
+  const PieceDef* const def = findPart(piece.cat);
+  return def != nullptr && def->role == PieceRole::turntable;
+}
 
 template <typename Pointer, typename Records>
 std::vector<Pointer> Selected(Records& records) {
@@ -125,7 +130,7 @@ void expandHelixSelection(Layout& layout) {
 void selectTurntableNeighbours(Layout& layout) {
   std::unordered_set<std::int32_t> joined;
   for (const Piece& piece : layout.pieces)
-    if (piece.sel && piece.cat == kTurntablePart) AddJoined(piece, joined);
+    if (piece.sel && IsTurntable(piece)) AddJoined(piece, joined);
   SelectPieces(layout, joined);
 }
 

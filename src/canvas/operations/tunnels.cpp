@@ -7,6 +7,7 @@
 
 #include "canvas/operations/selection.h"
 #include "catalog/connector_geometry.h"
+#include "catalog/scenery_catalog.h"
 #include "catalog/track_catalog.h"
 #include "doc/layout_ops.h"
 #include "doc/undo.h"
@@ -118,7 +119,7 @@ std::optional<Pose> PortalPose(const Layout& layout, std::int32_t anchor, std::i
 std::int32_t AddPortal(Layout& layout, const Pose& pose) {
   SceneryItem portal;
   portal.id = TakeId(layout);
-  portal.item = kTunnelPortalItem;
+  portal.item = findScenery(SceneryRole::tunnelPortal)->id;
   portal.x = pose.x;
   portal.y = pose.y;
   portal.heading = pose.heading;

@@ -2,14 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
 #include <vector>
 
 #include "doc/layout.h"
 
 namespace vantrel {
-
-inline constexpr std::string_view kTunnelPortalItem = "tunnel_portal_single";
 
 // What the tunnel command would do with the selection.
 struct TunnelPlan {

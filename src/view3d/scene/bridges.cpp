@@ -1,7 +1,5 @@
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <string_view>
 
 #include "catalog/piece_builders.h"
 #include "view3d/scene/structures.h"
@@ -19,15 +17,6 @@ constexpr Rgb kBow{0.7F, 0.72F, 0.74F};
 constexpr Rgb kBracing{0.62F, 0.65F, 0.68F};
 constexpr SolidColours kDeck{.side = {0.3F, 0.32F, 0.36F}, .top = {0.38F, 0.4F, 0.44F}};
 constexpr SolidColours kRampSlab{.side = {0.42F, 0.44F, 0.48F}, .top = {0.5F, 0.53F, 0.55F}};
-
-constexpr std::array<std::string_view, 4> kTrussParts{"74620", "7262", "62620", "89759"};
-constexpr std::array<std::string_view, 8> kRampParts{"74623", "74613", "74618", "7569",
-                                                     "7267",  "62623", "62613", "8976"};
-
-template <std::size_t n>
-bool IsOneOf(const std::array<std::string_view, n>& parts, std::string_view part) {
-  return std::find(parts.begin(), parts.end(), part) != parts.end();
-}
 
 // The bow of an arch bridge at `t` from 0 to 1, in the plane at this y.
 class Bow {
@@ -157,9 +146,9 @@ void AddRamp(Mesh& mesh, const Path& path) {
 
 void AddBridgeStructure(Mesh& mesh, const PieceDef& def, const Path& path) {
   const auto length = static_cast<float>(def.length);
-  if (def.kind == PieceKind::Curve || IsOneOf(kRampParts, def.partNumber))
+  if (def.kind == PieceKind::Curve || def.bridgeForm == BridgeForm::ramp)
     AddRamp(mesh, path);
-  else if (IsOneOf(kTrussParts, def.partNumber))
+  else if (def.bridgeForm == BridgeForm::truss)
     AddTrussBridge(mesh, length);
   else
     AddArchBridge(mesh, length);

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "catalog/scenery_catalog.h"
 #include "view3d/scene/recipes.h"
 
 namespace vantrel {
@@ -24,13 +25,11 @@ constexpr Recipe kRecipes[] = {{"tunnel_portal_single", recipes::MakeArchedPorta
                                {"signal_box", recipes::MakeSignalBox},
                                {"shed_1road", recipes::MakeOneRoadShed},
                                {"shed_2road", recipes::MakeTwoRoadShed},
-                               {"72886", recipes::MakeRoundhouse},
                                {"goods_shed", recipes::MakeGoodsShed},
                                {"warehouse", recipes::MakeWarehouse},
                                {"crossing_1track", recipes::MakeOneTrackCrossing},
                                {"crossing_2track", recipes::MakeTwoTrackCrossing},
                                {"road_straight", recipes::MakeRoad},
-                               {"74861", recipes::MakeTurntablePit},
                                {"water_tower", recipes::MakeWaterTower},
                                {"coaling_tower", recipes::MakeCoalingTower},
                                {"signal_semaphore_stop", recipes::MakeSemaphore},
@@ -59,6 +58,16 @@ constexpr Recipe kRecipes[] = {{"tunnel_portal_single", recipes::MakeArchedPorta
                                {"tunnel_portal_2", recipes::MakeDoublePortal},
                                {"retaining_wall", recipes::MakeRetainingWall}};
 
+// Items that are parts as well have a role instead of an id of their own.
+using Maker = void (*)(recipes::Item& item);
+Maker RecipeForRole(std::string_view id) {
+  const SceneryDef* const def = findScenery(id);
+  if (def == nullptr) return nullptr;
+  if (def->role == SceneryRole::roundhouse) return recipes::MakeRoundhouse;
+  if (def->role == SceneryRole::turntablePit) return recipes::MakeTurntablePit;
+  return nullptr;
+}
+
 void MakePlainSlab(recipes::Item& item) {
   constexpr float kHeightMm = 6.0F;
   constexpr Rgb kEarth{0.52F, 0.48F, 0.42F};
@@ -71,7 +80,9 @@ Model makeSceneryModel(std::string_view id, Footprint footprint) {
   recipes::Item item(id, footprint);
   const auto* const found = std::find_if(std::begin(kRecipes), std::end(kRecipes),
                                          [&](const Recipe& recipe) { return recipe.id == id; });
-  (found == std::end(kRecipes) ? MakePlainSlab : found->make)(item);
+  Maker make = found == std::end(kRecipes) ? RecipeForRole(id) : found->make;
+  if (make == nullptr) make = MakePlainSlab;
+  make(item);
   return std::move(item.mesh());
 }
 

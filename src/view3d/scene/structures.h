@@ -8,7 +8,7 @@
 
 namespace vantrel {
 
-// The arch, truss or ramp of a bridge part, by its part number; every curved one has a ramp. `path`
+// The arch, truss or ramp of a bridge part, by its form; every curved one has a ramp. `path`
 // is the part's centre line.
 void AddBridgeStructure(Mesh& mesh, const PieceDef& def, const Path& path);
 
