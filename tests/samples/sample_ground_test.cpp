@@ -60,7 +60,7 @@ std::vector<TrackPoint> TrackPoints(const Layout& layout) {
     const Piece& piece = layout.pieces[place];
     const PieceDef& def = *findPart(piece.cat);
     // All tracks run together into a turntable.
-    if (def.kind == PieceKind::Turntable || piece.cat == kSpokePart) continue;
+    if (def.kind == PieceKind::Turntable || def.role == PieceRole::spoke) continue;
     const double near = exitElevation(piece, def, 0);
     const double far = exitElevation(piece, def, 1);
     const double halfBed = def.system == TrackSystem::MarklinZ ? 6.0 : 18.7;
