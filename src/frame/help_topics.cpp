@@ -270,8 +270,10 @@ Options. Fit to page puts the plan on one sheet. Actual scale 1 : N prints it N 
 it is, on as many sheets as that takes, which meet edge to edge; 1 : 1 gives a template to lay
 your track on. Custom percentage makes the fitted plan larger or smaller. Choose whether to print
 the active level only or all levels, in color or grayscale, with or without the grid and the
-baseboard outline. After OK you choose the printer. File, Print Preview... shows the pages as you
-last set the options.
+baseboard outline. After OK you choose the printer; Preview there shows the pages first, on the
+paper chosen there, and its Print button goes on. A print of six sheets or more tells which one it
+is at, and its Cancel button ends it: no sheet is printed and no file written. File, Print
+Preview... shows the pages as you last set the options.
 )text";
 
 constexpr std::string_view kLevels = R"text(

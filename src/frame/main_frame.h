@@ -97,8 +97,9 @@ class MainFrame : public wxFrame, public Workspace {
   void armBaseboardTool();
   void showHistoryState();
   void rebuildView3D();
-  bool agreesToSheets(wxWindow* parent);
+  bool agreesToSheets(wxWindow* parent, const wxPrintData& data);
   void notePrinted(wxWindow* parent, bool done, const wxPrintData& data);
+  void showPreview(const wxPrintData& data);
 
   void onNew(wxCommandEvent& event);
   void onOpen(wxCommandEvent& event);

@@ -1,10 +1,9 @@
 // Print and Print Preview.
-#include <wx/log.h>
 #include <wx/paper.h>
 #include <wx/print.h>
-#include <wx/utils.h>
 
 #include <string>
+#include <utility>
 
 #include "app/services/program_icons.h"
 #include "canvas/canvas_panel.h"
@@ -15,7 +14,7 @@
 #include "print/layout_printout.h"
 #include "print/pages/pagination.h"
 #include "print/preview_frame.h"
-#include "print/print_progress.h"
+#include "print/print_run.h"
 
 namespace vantrel {
 namespace {
@@ -52,8 +51,8 @@ int SheetsNeeded(const Layout& layout, const PrintOptions& options, const wxPrin
 }  // namespace
 
 // Before the printer's own dialog: that one can't be told how many sheets there will be.
-bool MainFrame::agreesToSheets(wxWindow* parent) {
-  const int sheets = SheetsNeeded(layout_, printOptions_, printData_);
+bool MainFrame::agreesToSheets(wxWindow* parent, const wxPrintData& data) {
+  const int sheets = SheetsNeeded(layout_, printOptions_, data);
   if (sheets > kTooManySheets) {
     Warn(parent, kPrintTitle,
          "At this scale the layout takes more than 10,000 sheets of paper.\n\nChoose a smaller "
@@ -85,33 +84,44 @@ void MainFrame::onPrint(wxCommandEvent&) {
     if (dialog.ShowModal() != wxID_OK) return;
     printOptions_ = dialog.options();
   }
-  if (!agreesToSheets(this)) return;
+  if (!agreesToSheets(this, printData_)) return;
   wxPrintDialogData data(printData_);
   wxPrinter printer(&data);
-  bool done = false;
+  PrintEnd end = PrintEnd::notPrinted;
   {
-    LayoutPrintout printout(layout_, printOptions_);
-    // Pages are drawn in an event loop of their own: nobody may edit or close the plan beneath it.
-    const wxWindowDisabler noEvents;
-    const wxLogNull quiet;  // the toolkit would tell a problem in a box of its own as well
-    PrintProgress progress(
-        this, [&printer] { cancelPrintJob(printer.GetPrintDialogData().GetPrintData()); });
-    printout.watchSheets(
-        [&progress](int number, int count) { return progress.sheet(number, count); });
-    done = printer.Print(this, &printout, true);
+    LayoutPrintout printout(layout_, printOptions_);  // its end puts the levels back
+    end = runPrinter(printer, this, printout, true);
   }
-  notePrinted(this, done, printer.GetPrintDialogData().GetPrintData());
+  const wxPrintData& chosen = printer.GetPrintDialogData().GetPrintData();
+  if (end == PrintEnd::previewWanted)
+    showPreview(chosen);
+  else
+    notePrinted(this, end == PrintEnd::printed, chosen);
+}
+
+void MainFrame::onPrintPreview(wxCommandEvent&) {
+  canvas_->endGestures();
+  showPreview(printData_);
 }
 
 // The preview keeps every other window of the program disabled while it is open, and leaves the
 // levels as they are after each page that it has drawn.
-void MainFrame::onPrintPreview(wxCommandEvent&) {
-  canvas_->endGestures();
-  auto* preview = new LayoutPreview(
-      layout_, printOptions_, printData_,
-      {.mayPrint = [this] { return agreesToSheets(preview_); },
-       .printed = [this](bool done,
-                         const wxPrintData& data) { notePrinted(preview_, done, data); }});
+void MainFrame::showPreview(const wxPrintData& data) {
+  canvas_->Refresh();  // a print that ended for it may have shown other levels
+  PreviewPrinting printing;
+  printing.mayPrint = [this](const wxPrintData& shown) { return agreesToSheets(preview_, shown); };
+  printing.printed = [this](bool done, const wxPrintData& chosen) {
+    notePrinted(preview_, done, chosen);
+  };
+  // Once the button by which it was opened is let go of, another one takes its place: the paper may
+  // be another.
+  printing.previewWanted = [this](const wxPrintData& chosen) {
+    CallAfter([this, chosen] {
+      if (preview_) preview_->Close();
+      showPreview(chosen);
+    });
+  };
+  auto* preview = new LayoutPreview(layout_, printOptions_, data, std::move(printing));
   if (!preview->IsOk()) {
     delete preview;
     ReportError(this, kPreviewTitle,

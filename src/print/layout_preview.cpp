@@ -1,12 +1,9 @@
 #include "print/layout_preview.h"
 
-#include <wx/log.h>
-#include <wx/utils.h>
-
 #include <utility>
 
 #include "print/layout_printout.h"
-#include "print/print_progress.h"
+#include "print/print_run.h"
 
 namespace vantrel {
 
@@ -21,26 +18,18 @@ LayoutPreview::LayoutPreview(Layout& layout, const PrintOptions& options, wxPrin
       printing_(std::move(printing)) {}
 
 // With a printer of its own: the toolkit's preview would keep what the user chose in the printer's
-// dialog to itself. Pages are drawn in an event loop of their own: nothing may be closed or edited
-// beneath it.
+// dialog to itself.
 bool LayoutPreview::Print(bool interactive) {
-  if (!printing_.mayPrint()) return false;
+  auto* const printout = dynamic_cast<LayoutPrintout*>(GetPrintoutForPrinting());
+  if (printout == nullptr || !printing_.mayPrint(GetPrintDialogData().GetPrintData())) return false;
   wxPrinter printer(&GetPrintDialogData());
-  bool done = false;
-  {
-    const wxWindowDisabler noEvents;
-    const wxLogNull quiet;  // who is told of a problem tells it in its own words
-    PrintProgress progress(
-        GetFrame(), [&printer] { cancelPrintJob(printer.GetPrintDialogData().GetPrintData()); });
-    auto* const printout = dynamic_cast<LayoutPrintout*>(GetPrintoutForPrinting());
-    if (printout != nullptr)
-      printout->watchSheets(
-          [&progress](int number, int count) { return progress.sheet(number, count); });
-    done = printer.Print(GetFrame(), GetPrintoutForPrinting(), interactive);
-  }
-  if (auto* const printout = dynamic_cast<LayoutPrintout*>(GetPrintoutForPrinting()))
-    printout->watchSheets({});
+  const PrintEnd end = runPrinter(printer, GetFrame(), *printout, interactive);
   const wxPrintData& chosen = printer.GetPrintDialogData().GetPrintData();
+  if (end == PrintEnd::previewWanted) {
+    printing_.previewWanted(chosen);
+    return false;
+  }
+  const bool done = end == PrintEnd::printed;
   if (done) GetPrintDialogData().SetPrintData(chosen);
   printing_.printed(done, chosen);
   return done;

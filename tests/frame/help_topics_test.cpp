@@ -127,6 +127,12 @@ TEST(HelpTopics, TellHowToPrint) {
     EXPECT_NE(body.find(words), std::string::npos) << words;
 }
 
+TEST(HelpTopics, TellOfThePrintersPreviewAndHowToCancelAPrint) {
+  const std::string body = WholeBody(Topic("Files (.vtl)"));
+  for (const char* words : {"Preview there shows the pages first", "Cancel button ends it"})
+    EXPECT_NE(body.find(words), std::string::npos) << words;
+}
+
 // One word for one thing: a joint, a turnout, a grade. "Switches" is the name of a palette section.
 TEST(HelpTopics, UseOneWordForOneThing) {
   const std::string manual = WholeManual();

@@ -1,0 +1,26 @@
+#include "print/print_run.h"
+
+#include <wx/log.h>
+#include <wx/utils.h>
+
+#include "print/preview_button.h"
+#include "print/print_progress.h"
+
+namespace vantrel {
+
+PrintEnd runPrinter(wxPrinter& printer, wxWindow* parent, LayoutPrintout& printout,
+                    bool interactive) {
+  const wxWindowDisabler noEvents;
+  const wxLogNull quiet;
+  PreviewButton preview;
+  PrintProgress progress(
+      parent, [&printer] { cancelPrintJob(printer.GetPrintDialogData().GetPrintData()); });
+  printout.watchSheets(
+      [&progress](int number, int count) { return progress.sheet(number, count); });
+  const bool done = printer.Print(parent, &printout, interactive);
+  printout.watchSheets({});
+  if (preview.pressed()) return PrintEnd::previewWanted;
+  return done ? PrintEnd::printed : PrintEnd::notPrinted;
+}
+
+}  // namespace vantrel
