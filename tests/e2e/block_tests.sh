@@ -78,7 +78,7 @@ test_a_block_is_deleted_by_keys_alone() {
   listed_yard || return 1
   on_row 0
   click
-  key Menu
+  pop_up key Menu
   key Down
   key Return
   answer_box 'Delete Library Block' alt+y || return 1

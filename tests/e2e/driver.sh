@@ -271,10 +271,22 @@ drag_to() {
   settle
 }
 
+shown_windows() { xdotool search --onlyvisible --class . 2>/dev/null | wc -l; }
+more_are_shown() { [ "$(shown_windows)" -gt "$1" ]; }
+
+# pop_up COMMAND...: does what makes a menu pop up, and waits for it: a key that comes before would go
+# to the window below.
+pop_up() {
+  local before
+  before=$(shown_windows)
+  "$@"
+  until_true 30 more_are_shown "$before" || true
+  settle
+}
+
 # choose_entry N: the Nth entry of the context menu that a right press pops up here.
 choose_entry() {
-  click 3
-  settle
+  pop_up click 3
   for _ in $(seq "$1"); do key Down; done
   xdotool key Return
   settle
