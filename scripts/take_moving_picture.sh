@@ -85,8 +85,10 @@ kill -INT "$camera"
 wait "$camera" || true
 camera=
 
+# However long it took: shown in ten seconds.
+length=$(ffprobe -loglevel error -show_entries packet=pts_time -of csv=p=0 "$film" | tail -n 1)
 mkdir -p "$(dirname "$picture")"
-ffmpeg -loglevel error -y -i "$film" -vf "scale=960:-1:flags=lanczos,split[a][b];\
+ffmpeg -loglevel error -y -i "$film" -vf "setpts=PTS*10/${length%,},fps=12,scale=960:-1:flags=lanczos,split[a][b];\
 [a]palettegen=max_colors=96:stats_mode=diff[p];[b][p]paletteuse=dither=none:diff_mode=rectangle" \
   "$picture"
 ls -l "$picture"
