@@ -92,6 +92,7 @@ void MainFrame::onPrint(wxCommandEvent&) {
     LayoutPrintout printout(layout_, printOptions_);  // its end puts the levels back
     end = runPrinter(printer, this, printout, true);
   }
+  canvas_->SetFocus();  // whatever had the keyboard lost it when the frame was disabled
   const wxPrintData& chosen = printer.GetPrintDialogData().GetPrintData();
   if (end == PrintEnd::previewWanted)
     showPreview(chosen);

@@ -24,6 +24,8 @@ bool LayoutPreview::Print(bool interactive) {
   if (printout == nullptr || !printing_.mayPrint(GetPrintDialogData().GetPrintData())) return false;
   wxPrinter printer(&GetPrintDialogData());
   const PrintEnd end = runPrinter(printer, GetFrame(), *printout, interactive);
+  // The control that had the keyboard lost it when its window was disabled.
+  if (GetCanvas() != nullptr) GetCanvas()->SetFocus();
   const wxPrintData& chosen = printer.GetPrintDialogData().GetPrintData();
   if (end == PrintEnd::previewWanted) {
     printing_.previewWanted(chosen);

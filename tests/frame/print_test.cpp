@@ -122,6 +122,12 @@ class Printing : public FrameTest {
     return condition();
   }
   wxWindow* previewWindow() { return wxWindow::FindWindowByLabel("Print Preview -- Vantrel"); }
+  static bool holdsKeyboard(wxWindow* window) {
+    auto* const top = dynamic_cast<wxTopLevelWindow*>(window);
+    wxWindow* const focused = wxWindow::FindFocus();
+    return top != nullptr && top->IsActive() && focused != nullptr &&
+           wxGetTopLevelParent(focused) == top;
+  }
   void addHiddenLevel() {
     Level level;
     level.id = 7;
@@ -474,6 +480,40 @@ TEST_F(Printing, FromAPreviewTakesThePrintersDataOnSuccess) {
   // Once more it begins with what was chosen.
   printFromPreview();
   EXPECT_EQ(printer_.givenPaper, wxPAPER_A4);
+}
+
+TEST_F(Printing, OfManySheetsFromAPreviewGivesItTheKeyboardBack) {
+  showFrame();
+  // At 1:1 a letter sheet shows 257.05 by 198.6 mm: 24 sheets, 6 by 4.
+  plan().baseboard = {{0, 0}, {1500, 0}, {1500, 780}, {0, 780}};
+  printer_.outcome = wxPRINTER_CANCELLED;
+  ModalScript script;
+  script.shown("Print Options", ChooseFullSize);
+  command(5010);
+  openPaintedPreview();
+  EXPECT_TRUE(waitUntil([this] { return holdsKeyboard(previewWindow()); }));
+  RecordingDC dc({3300, 2550}, 300);
+  printer_.run = [&](wxPrintout& printout) {
+    printout.SetPageSizePixels(3300, 2550);
+    printout.SetPPIPrinter(300, 300);
+    printout.SetDC(&dc);
+    printout.OnPreparePrinting();
+    EXPECT_TRUE(printout.OnPrintPage(1));
+    EXPECT_TRUE(waitUntil([] { return holdsKeyboard(ProgressWindow()); }));
+  };
+  printFromPreview();
+  EXPECT_EQ(ProgressWindow(), nullptr);
+  EXPECT_TRUE(waitUntil([this] { return holdsKeyboard(previewWindow()); }));
+}
+
+TEST_F(Printing, LeavesTheKeyboardWithTheCanvas) {
+  showFrame();
+  frame().canvas().SetFocus();
+  EXPECT_TRUE(waitUntil([this] { return frame().canvas().HasFocus(); }));
+  ModalScript script;
+  script.dialog("Print Options", wxID_OK);
+  command(5010);
+  EXPECT_TRUE(waitUntil([this] { return frame().canvas().HasFocus(); }));
 }
 
 TEST_F(Printing, FromAPreviewTellsAProblemOfThePrinter) {
