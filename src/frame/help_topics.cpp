@@ -188,6 +188,8 @@ and its position orbits the centroid.
 Ctrl+wheel turns it about its middle, 15 degrees at each step, or 5 with Shift. The keys [ and ]
 do the same, to the left and to the right, and with Shift by one degree: use them where your
 desktop keeps Alt with a drag for moving windows. The Tools menu has these four turns as well.
+Labels, measuring tapes and polygons stay as they are; where nothing else is selected, the keys and
+the menu say so.
 
 Alt+right-click turns it about its first piece: 30 degrees for track, platforms and signals, 15
 for other scenery.
@@ -260,7 +262,8 @@ Ctrl+S saves, and asks for a name the first time. File, Save As... (Ctrl+Shift+S
 another name. File, Open Layout... (Ctrl+O) lists your plans, and its Delete... button removes one
 for good. New Layout (Ctrl+N) and Close Layout (Ctrl+W) both begin anew. When there are changes
 you haven't saved, the program asks first; a star in the title bar tells that there are some. A
-save that fails says why: a full disk, a folder that isn't there.
+save that fails says why: a full disk, a folder that isn't there. A few names could not be read back
+from the file, such as one that ends in units=: the first save asks whether you want another.
 
 File, Import Layout... takes a plan from another folder into yours, and File, Export Layout...
 copies one out as it was last saved, to send it to a friend or to keep it safe.

@@ -1,6 +1,9 @@
 // The commands that open the dialogs on the plan as a whole: its table and its levels.
 #include <wx/toolbar.h>
 
+#include <set>
+#include <string>
+
 #include "canvas/canvas_panel.h"
 #include "dialogs/layout_shape_dialog.h"
 #include "dialogs/level_manager_dialog.h"
@@ -45,7 +48,11 @@ void MainFrame::armBaseboardTool() {
 void MainFrame::onLevels(wxCommandEvent&) {
   canvas_->endGestures();
   EnsureDefaultLevel(layout_);
+  std::set<std::string> before;
+  for (const Level& level : layout_.levels) before.insert(level.name);
   LevelManagerDialog(this, layout_).ShowModal();
+  for (const Level& level : layout_.levels)  // the dialog has asked about each new name
+    if (!before.contains(level.name)) keptLevelNames_.insert(level.name);
   setStatus(kStatusPieces, PiecesText(layout_.pieces.size()));
   refreshViews();
   selectionChanged();

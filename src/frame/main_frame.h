@@ -7,6 +7,7 @@
 #include <wx/weakref.h>
 
 #include <memory>
+#include <set>
 #include <string>
 
 #include "app/services/program_folders.h"
@@ -88,6 +89,10 @@ class MainFrame : public wxFrame, public Workspace {
   void exportLayout();
   bool writeLayout();
   bool askLayoutName();
+  bool keepsLayoutName(const std::string& name);
+  bool keepsLevelName(const std::string& name);
+  bool settleLevelNames();
+  void forgetKeptNames();
   bool confirmReplace(const std::string& name);
   bool copyIntoStore(const std::string& source, const std::string& target, const std::string& name);
   void forgetFile(const std::string& path);
@@ -147,6 +152,10 @@ class MainFrame : public wxFrame, public Workspace {
   View3DFrame* view3D_ = nullptr;
   std::string currentPath_;  // empty for a layout never saved
   std::string layoutName_;   // as the file holds it: a loaded name may carry entities
+  // Names that need no question any more, as long as the plan is open: files give them back, or the
+  // user wants them all the same.
+  std::set<std::string> keptLayoutNames_;
+  std::set<std::string> keptLevelNames_;
   bool dirty_ = false;
   bool discardAgreed_ = false;  // in a flow in which the user said to drop the changes
   bool painted_ = false;        // the window has come up on the screen

@@ -91,6 +91,7 @@ void MainFrame::newLayout() {
   canvas_->dropDrafts();
   StartNewPlan(layout_);
   currentPath_.clear();
+  forgetKeptNames();
   dirty_ = false;
   SetTitle(kProgramTitle);
   refreshViews();
@@ -100,9 +101,50 @@ void MainFrame::newLayout() {
   setStatus(kStatusPieces, PiecesText(0));
 }
 
+// A name may have come from a file and still be one that today's file wouldn't give back.
 bool MainFrame::SaveLayout(bool askName) {
-  if ((askName || currentPath_.empty()) && !askLayoutName()) return false;
+  if (!settleLevelNames()) return false;
+  const bool named = !askName && !currentPath_.empty() && keepsLayoutName(layoutName_);
+  if (!named && !askLayoutName()) return false;
   return writeLayout();
+}
+
+// True when each level has a name that the user has been asked about, or that needs no question.
+bool MainFrame::settleLevelNames() {
+  for (Level& level : layout_.levels) {
+    if (keepsLevelName(level.name)) continue;
+    const std::optional<std::string> typed =
+        AskText(this, "Another name for the level:", "Level Name", level.name,
+                [this](const std::string& text) {
+                  const std::string_view name = Trimmed(text);
+                  return !name.empty() && keepsLevelName(std::string(name));
+                });
+    if (!typed) return false;
+    level.name = std::string(Trimmed(*typed));
+    markDirty();
+    selectionChanged();
+  }
+  return true;
+}
+
+// Asks once for each name.
+bool MainFrame::keepsLayoutName(const std::string& name) {
+  if (keptLayoutNames_.contains(name)) return true;
+  if (!ConfirmsLayoutName(this, name)) return false;
+  keptLayoutNames_.insert(name);
+  return true;
+}
+
+bool MainFrame::keepsLevelName(const std::string& name) {
+  if (keptLevelNames_.contains(name)) return true;
+  if (!ConfirmsLevelName(this, name)) return false;
+  keptLevelNames_.insert(name);
+  return true;
+}
+
+void MainFrame::forgetKeptNames() {
+  keptLayoutNames_.clear();
+  keptLevelNames_.clear();
 }
 
 bool MainFrame::writeLayout() {
@@ -120,7 +162,7 @@ bool MainFrame::writeLayout() {
 bool MainFrame::askLayoutName() {
   const std::optional<std::string> typed =
       AskText(this, "Layout name:", "Save Layout", layoutName_.empty() ? kFirstName : layoutName_,
-              [this](const std::string& text) { return ConfirmsLayoutName(this, NameOf(text)); });
+              [this](const std::string& text) { return keepsLayoutName(NameOf(text)); });
   if (!typed) return false;
   const std::string name = NameOf(*typed);
   const std::string path = LayoutPath(folders_.store, name);
@@ -170,6 +212,7 @@ void MainFrame::LoadIntoFrame(const std::string& path) {
   EnsureDefaultLevel(layout_);
   currentPath_ = path;
   layoutName_ = name;
+  forgetKeptNames();
   dirty_ = false;
   UpdateTitle();
   showLoadedLayout();

@@ -27,13 +27,13 @@ void TurnRightFine(MainFrame& frame) {
 // clang-format off
 constexpr ToolCommand kToolCommands[] = {
     {.id = kCmdTurnLeft, .label = "Turn &Left by 15 deg\t[", .run = TurnLeft,
-     .allowed = hasSelectedObject},
+     .allowed = hasSelection},
     {.id = kCmdTurnRight, .label = "Turn &Right by 15 deg\t]", .run = TurnRight,
-     .allowed = hasSelectedObject},
+     .allowed = hasSelection},
     {.id = kCmdTurnLeftFine, .label = "Turn Left by &1 deg\t{", .run = TurnLeftFine,
-     .allowed = hasSelectedObject},
+     .allowed = hasSelection},
     {.id = kCmdTurnRightFine, .label = "Turn Right by 1 &deg\t}", .run = TurnRightFine,
-     .allowed = hasSelectedObject},
+     .allowed = hasSelection},
 };
 // clang-format on
 

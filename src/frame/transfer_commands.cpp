@@ -44,7 +44,9 @@ void MainFrame::importLayout() {
   if (FileExists(target) && !confirmReplace(name)) return;
   if (!copyIntoStore(source, target, name)) return;
   if (!AskQuestion(this, "Import", "Imported successfully.\n\nOpen \"" + name + "\" now?")) return;
-  if (ConfirmDiscard()) LoadIntoFrame(target);
+  if (!ConfirmDiscard()) return;
+  LoadIntoFrame(target);
+  if (currentPath_ == target) keptLayoutNames_.insert(name);  // asked about above
 }
 
 // Copies the file and writes it back in today's form under its new name.

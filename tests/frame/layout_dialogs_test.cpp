@@ -145,6 +145,18 @@ TEST_F(LayoutDialogs, LevelsStartWithADefaultLevelAndMarkTheLayoutChanged) {
   EXPECT_TRUE(frame().dirty());
 }
 
+TEST_F(LayoutDialogs, ALevelsNameThatWasAgreedToThereIsNotAskedAboutBySave) {
+  WriteFileText(inStore("Attic.vtl"), LayoutText("Attic"));
+  frame().LoadIntoFrame(inStore("Attic.vtl"));
+  ModalScript script;
+  // As the dialog's own question leaves it, answered with Yes.
+  script.dialog("Manage Levels", wxID_OK, [this](wxDialog&) { plan().levels[0].name = "A r="; });
+  command(kCmdLevels);
+  command(kCmdSave);
+  EXPECT_FALSE(frame().dirty());
+  EXPECT_NE(ReadFileText(inStore("Attic.vtl")).find("name=\"A r=\""), std::string::npos);
+}
+
 TEST_F(LayoutDialogs, LevelsMarkTheLayoutChangedEvenWhenTheDialogWasCancelled) {
   ModalScript script;
   script.dialog("Manage Levels", wxID_CANCEL);

@@ -191,6 +191,113 @@ TEST_F(Save, ANameThatCouldNotBeReadBackIsTakenWhenTheUserWantsIt) {
   EXPECT_TRUE(std::filesystem::exists(inStore("Plan units=.vtl")));
 }
 
+// The units stand before the name, so that today's reader takes them, as it does from the files of
+// other programs.
+std::string NamedLast(const std::string& name, const std::string& level = "Deck") {
+  return "<layout version=\"1\" units=\"0\" name=\"" + name +
+         "\">\n  <levels active=\"1\">\n    <level id=\"1\" visible=\"1\" height=\"50.0\" "
+         "trackcolor=\"0\" r=\"1\" g=\"2\" b=\"3\" name=\"" +
+         level + "\"/>\n  </levels>\n  <pieces>\n  </pieces>\n</layout>\n";
+}
+
+constexpr const char* kUnreadableLevel =
+    "A layout with a level named \"Deck height=\" could not be opened again: the end of the name "
+    "would be read as a setting.\n\nUse this name all the same?";
+
+TEST_F(Save, ANameFromAFileThatCouldNotBeReadBackIsAskedAboutOnceBeforeItIsWritten) {
+  const std::string text = NamedLast("Plan units=");
+  WriteFileText(inStore("Old.vtl"), text);
+  frame().LoadIntoFrame(inStore("Old.vtl"));
+  ASSERT_EQ(frame().layoutName(), "Plan units=");
+  for (const bool first : {true, false}) {
+    frame().markDirty();
+    ModalScript script;
+    if (first) script.box("Layout Name", kUnreadableName, kCautiousBox, wxID_YES);
+    save();
+    EXPECT_FALSE(frame().dirty());
+  }
+  EXPECT_NE(ReadFileText(inStore("Old.vtl")).find("<layout name=\"Plan units=\""),
+            std::string::npos);
+
+  WriteFileText(inStore("Old.vtl"), text);
+  frame().LoadIntoFrame(inStore("Old.vtl"));
+  ModalScript script;
+  script.box("Layout Name", kUnreadableName, kCautiousBox, wxID_NO);
+  script.dialog("Save Layout", wxID_CANCEL);
+  save();
+  EXPECT_TRUE(script.finished()) << "another session asks again";
+  EXPECT_EQ(ReadFileText(inStore("Old.vtl")), text) << "nothing is written before the answer";
+}
+
+TEST_F(Save, ANameFromAFileThatTheUserWouldRatherChangeIsAskedForAsBySaveAs) {
+  const std::string text = NamedLast("Plan units=");
+  WriteFileText(inStore("Old.vtl"), text);
+  frame().LoadIntoFrame(inStore("Old.vtl"));
+  frame().markDirty();
+  std::string offered;
+  ModalScript script;
+  script.box("Layout Name", kUnreadableName, kCautiousBox, wxID_NO);
+  script.dialog("Save Layout", wxID_OK, TypeName("Plan", &offered));
+  save();
+  EXPECT_EQ(offered, "Plan units=");
+  EXPECT_EQ(frame().layoutName(), "Plan");
+  EXPECT_EQ(frame().currentPath(), inStore("Plan.vtl"));
+  EXPECT_FALSE(frame().dirty());
+  EXPECT_EQ(ReadFileText(inStore("Old.vtl")), text);
+}
+
+TEST_F(Save, ANameThatWasAgreedToWhenTypedIsNotAskedAboutAgain) {
+  {
+    ModalScript script;
+    script.dialog("Save Layout", wxID_OK, TypeName("Plan units="));
+    script.box("Layout Name", kUnreadableName, kCautiousBox, wxID_YES);
+    saveAs();
+  }
+  ModalScript none;
+  save();
+  EXPECT_FALSE(frame().dirty());
+}
+
+TEST_F(Save, ALevelsNameFromAFileThatCouldNotBeReadBackIsAskedAboutOnce) {
+  WriteFileText(inStore("Old.vtl"), NamedLast("Plan", "Deck height="));
+  frame().LoadIntoFrame(inStore("Old.vtl"));
+  ASSERT_EQ(plan().levels.at(0).name, "Deck height=");
+  {
+    ModalScript script;
+    script.box("Level Name", kUnreadableLevel, kCautiousBox, wxID_YES);
+    save();
+  }
+  ModalScript none;
+  save();
+  EXPECT_EQ(plan().levels[0].name, "Deck height=");
+  EXPECT_NE(ReadFileText(inStore("Old.vtl")).find("name=\"Deck height=\" visible"),
+            std::string::npos);
+}
+
+TEST_F(Save, ALevelsNameFromAFileIsChangedWhereTheUserWouldRatherHaveAnother) {
+  const std::string text = NamedLast("Plan", "Deck height=");
+  WriteFileText(inStore("Old.vtl"), text);
+  frame().LoadIntoFrame(inStore("Old.vtl"));
+  frame().markDirty();
+  ModalScript script;
+  script.box("Level Name", kUnreadableLevel, kCautiousBox, wxID_NO);
+  script.dialog("Level Name", wxID_CANCEL);
+  save();
+  EXPECT_TRUE(frame().dirty());
+  EXPECT_EQ(ReadFileText(inStore("Old.vtl")), text) << "nothing is written on Cancel";
+
+  std::string offered;
+  script.box("Level Name", kUnreadableLevel, kCautiousBox, wxID_NO);
+  script.dialog("Level Name", wxID_OK, TypeName(" Deck ", &offered));
+  save();
+  EXPECT_EQ(offered, "Deck height=");
+  EXPECT_EQ(plan().levels.at(0).name, "Deck");
+  EXPECT_FALSE(frame().dirty());
+  frame().LoadIntoFrame(inStore("Old.vtl"));
+  EXPECT_EQ(plan().levels.at(0).name, "Deck");
+  EXPECT_EQ(plan().levels.at(0).height, 50.0);
+}
+
 TEST_F(Save, ConfirmDiscardAsksNothingOfACleanLayout) {
   ModalScript none;
   EXPECT_TRUE(frame().ConfirmDiscard());

@@ -80,14 +80,31 @@ TEST_F(ToolsMenu, TurnsTheSelectionToTheLeftAndToTheRight) {
   EXPECT_TRUE(frame().dirty());
 }
 
-TEST_F(ToolsMenu, OffersTurnsOnlyWhileSomethingIsSelectedThatTheWheelWouldTurn) {
+TEST_F(ToolsMenu, OffersTurnsOnlyWhileSomethingIsSelected) {
   addPiece();
-  plan().labels.emplace_back().sel = true;
+  plan().labels.emplace_back();
   EXPECT_FALSE(enabled(kCmdTurnLeft));
   EXPECT_FALSE(enabled(kCmdTurnRightFine));
   plan().pieces[0].sel = true;
   EXPECT_TRUE(enabled(kCmdTurnLeft));
   EXPECT_TRUE(enabled(kCmdTurnRightFine));
+  plan().pieces[0].sel = false;
+  plan().labels[0].sel = true;
+  EXPECT_TRUE(enabled(kCmdTurnLeft));
+  EXPECT_TRUE(enabled(kCmdTurnRightFine));
+}
+
+TEST_F(ToolsMenu, TellsThatWhatIsSelectedCannotBeTurned) {
+  plan().labels.emplace_back().sel = true;
+  for (const int id : {kCmdTurnLeft, kCmdTurnRight, kCmdTurnLeftFine, kCmdTurnRightFine}) {
+    ModalScript script;
+    script.box("Turn Selection", "Only labels are selected, and they cannot be turned.",
+               kInformationBox, wxID_OK);
+    command(id);
+    EXPECT_TRUE(script.finished()) << id;
+  }
+  EXPECT_TRUE(plan().undoHistory.empty());
+  EXPECT_FALSE(frame().dirty());
 }
 
 TEST_F(ToolsMenu, EndsADragBeforeItTurnsWhatWasDragged) {

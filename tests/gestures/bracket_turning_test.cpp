@@ -107,6 +107,54 @@ TEST_F(BracketTurning, SceneryTurnsTooAndAnnotationsAloneDoNot) {
   EXPECT_EQ(layout.undoHistory.size(), 1u);
 }
 
+TEST_F(BracketTurning, TheKeysTellThatWhatIsSelectedCannotBeTurned) {
+  layout.labels.emplace_back().sel = true;
+  layout.measurements.emplace_back();
+  layout.shapes.emplace_back();
+  EXPECT_TRUE(type(']'));
+  ASSERT_EQ(host.boxes.size(), 1u);
+  EXPECT_EQ(host.boxes[0].title, "Turn Selection");
+  EXPECT_EQ(host.boxes[0].text, "Only labels are selected, and they cannot be turned.");
+  EXPECT_EQ(host.boxes[0].icon, BoxIcon::information);
+  layout.shapes[0].sel = true;
+  type('{');
+  EXPECT_EQ(host.boxes.back().text,
+            "Only labels and polygons are selected, and they cannot be turned.");
+  layout.measurements[0].sel = true;
+  type('[');
+  EXPECT_EQ(host.boxes.back().text,
+            "Only labels, measuring tapes and polygons are selected, and they cannot be turned.");
+  EXPECT_EQ(host.boxes.size(), 3u);
+  EXPECT_EQ(host.dirtyMarks, 0);
+  EXPECT_TRUE(layout.undoHistory.empty());
+}
+
+TEST_F(BracketTurning, OfAMixedSelectionWhatCanTurnsAndNoWordIsSaidOfTheRest) {
+  const std::int32_t id = laySelected();
+  layShape({0.0, 0.0}, 100.0);
+  layout.shapes[0].sel = true;
+  type(']');
+  EXPECT_NEAR(piece(id).heading, 15.0, 1e-9);
+  EXPECT_EQ(layout.shapes[0].vertices[1], (Vec2{100.0, 0.0}));
+  EXPECT_TRUE(host.boxes.empty());
+}
+
+TEST_F(BracketTurning, WithoutASelectionTheKeysSayNothing) {
+  lay("24188", {100.0, 100.0, 0.0});
+  layout.labels.emplace_back();
+  type('[');
+  type('}');
+  EXPECT_TRUE(host.boxes.empty());
+  EXPECT_EQ(host.repaints, 0);
+}
+
+TEST_F(BracketTurning, NothingIsSaidWhileSomethingHangsAtThePointer) {
+  beginPieceDrag(context, "24130");
+  layout.labels.emplace_back().sel = true;
+  type(']');
+  EXPECT_TRUE(host.boxes.empty());
+}
+
 TEST_F(BracketTurning, NothingTurnsBehindADragOrBehindWhatHangsAtThePointer) {
   const std::int32_t id = laySelected();
   pressLeft(400, 400);

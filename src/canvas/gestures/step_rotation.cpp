@@ -1,5 +1,10 @@
 #include "canvas/gestures/step_rotation.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <vector>
+
 #include "canvas/gestures/gesture_end.h"
 #include "canvas/gestures/lock_boxes.h"
 #include "canvas/operations/rotating.h"
@@ -17,6 +22,36 @@ void ShowChange(CanvasContext& context) {
 
 bool HangsAtPointer(const CanvasState& state) {
   return state.paletteDrag.active || state.sceneryDrag.active || state.helixPlacement.active;
+}
+
+template <typename Record>
+void AddKind(std::vector<std::string>& kinds, const std::vector<Record>& records,
+             const char* kind) {
+  if (std::ranges::any_of(records, &Record::sel)) kinds.emplace_back(kind);
+}
+
+// What is selected of the things that have no direction, such as "labels, measuring tapes and
+// polygons".
+std::string SelectedAnnotations(const Layout& layout) {
+  std::vector<std::string> kinds;
+  AddKind(kinds, layout.labels, "labels");
+  AddKind(kinds, layout.measurements, "measuring tapes");
+  AddKind(kinds, layout.shapes, "polygons");
+  std::string text;
+  for (std::size_t i = 0; i < kinds.size(); ++i) {
+    if (i > 0) text += i + 1 == kinds.size() ? " and " : ", ";
+    text += kinds[i];
+  }
+  return text;
+}
+
+// A pan with the middle button may be under way when a key asks: the box must have the mouse.
+void TellNothingTurns(CanvasContext& context) {
+  context.host.releaseMouse();
+  context.host.inform(
+      "Turn Selection",
+      "Only " + SelectedAnnotations(context.layout) + " are selected, and they cannot be turned.",
+      BoxIcon::information);
 }
 
 // By how much a character turns; 0 for all others.
@@ -43,8 +78,12 @@ bool IsChord(const Modifiers& mods) {
 }  // namespace
 
 void turnSelection(CanvasContext& context, double degrees) {
-  if (!hasSelectedObject(context.layout)) return;
+  if (!hasSelection(context.layout)) return;
   if (isLeftGestureActive(context.state) || HangsAtPointer(context.state)) return;
+  if (!hasSelectedObject(context.layout)) {
+    TellNothingTurns(context);
+    return;
+  }
   turnSelectionByWheel(context.layout, degrees);
   ShowChange(context);
 }

@@ -107,6 +107,11 @@ bool hasSelectedObject(const Layout& layout) {
   return AnySelected(layout.pieces) || AnySelected(layout.scenery);
 }
 
+bool hasSelection(const Layout& layout) {
+  return hasSelectedObject(layout) || AnySelected(layout.labels) ||
+         AnySelected(layout.measurements) || AnySelected(layout.shapes);
+}
+
 std::int32_t commonHelixOfSelection(const Layout& layout) {
   if (AnySelected(layout.scenery)) return kNone;
   std::int32_t common = kNone;

@@ -20,6 +20,8 @@ std::vector<const SceneryItem*> selectedScenery(const Layout& layout);
 bool hasSelectedPiece(const Layout& layout);
 // A piece or a scenery item.
 bool hasSelectedObject(const Layout& layout);
+// Anything at all: a label, a measuring tape and a shape count too.
+bool hasSelection(const Layout& layout);
 
 // The helix that all selected pieces share, when at least one piece and no scenery is selected;
 // otherwise kNone.
