@@ -79,13 +79,9 @@ class Prompts : public StatusLine {
 TEST_F(Prompts, TellHowToGoOnWithWhatHangsAtThePointerAndThenTheOldTextIsBack) {
   EXPECT_EQ(shown(), "Grade ended");
   beginPieceDrag(context, "24188");
-  EXPECT_EQ(
-      shown(),
-      "Click to set the piece down. The wheel, R and the right button turn it; Escape gives it "
-      "up.");
+  EXPECT_EQ(shown(), "Click sets it down, the wheel or R turns it, Escape gives it up.");
   beginSceneryDrag(context, "platform");
-  EXPECT_EQ(shown(),
-            "Click to set it down. The wheel, R and the right button turn it; Escape gives it up.");
+  EXPECT_EQ(shown(), "Click sets it down, the wheel or R turns it, Escape gives it up.");
   beginHelixPlacement(context, "proses_2_5_r1r2");
   EXPECT_EQ(shown(), "Click where the middle of the helix should lie.");
   clickLeft(400, 300);
@@ -98,25 +94,21 @@ TEST_F(Prompts, TellHowToGoOnWithWhatHangsAtThePointerAndThenTheOldTextIsBack) {
 
 TEST_F(Prompts, TellTheStepsOfTheTape) {
   layout.toolMode = kMeasureTool;
-  EXPECT_EQ(shown(), "Click where the tape begins. Escape puts the tool away.");
+  EXPECT_EQ(shown(), "Click where the tape begins; Escape puts the tool away.");
   clickLeft(100, 100);
-  EXPECT_EQ(shown(), "Click where the tape ends. Escape puts the tool away.");
+  EXPECT_EQ(shown(), "Click where the tape ends; Escape puts the tool away.");
   clickLeft(300, 100);
   EXPECT_EQ(shown(), "Grade ended");
 }
 
 TEST_F(Prompts, TellTheStepsOfThePolygonAndThatThreeCornersCanBeClosed) {
   layout.toolMode = kPolygonTool;
-  EXPECT_EQ(shown(),
-            "Click the corners of the polygon one after the other. Escape puts the tool away.");
+  EXPECT_EQ(shown(), "Click the polygon's corners; Escape puts the tool away.");
   clickLeft(100, 100);
   clickLeft(300, 100);
-  EXPECT_EQ(shown(), "Click the next corner. Backspace takes the last one back; Escape gives up.");
+  EXPECT_EQ(shown(), "Click the next corner; Backspace takes one back, Escape all.");
   clickLeft(300, 250);
-  EXPECT_EQ(
-      shown(),
-      "Click the next corner, or the first one (or press Enter) to close. Backspace takes the "
-      "last one back; Escape gives up.");
+  EXPECT_EQ(shown(), "Next corner, or the first (or Enter) to close; Escape gives up.");
   key(WXK_RETURN);
   EXPECT_EQ(shown(), "Grade ended");
 }
@@ -125,7 +117,7 @@ TEST_F(Prompts, OneToolAfterTheOtherKeepsTheTextFromBeforeBoth) {
   layout.toolMode = kMeasureTool;
   paint();
   layout.toolMode = kPolygonTool;
-  EXPECT_TRUE(shown().starts_with("Click the corners"));
+  EXPECT_TRUE(shown().starts_with("Click the polygon"));
   layout.toolMode = kNoTool;
   EXPECT_EQ(shown(), "Grade ended");
 }

@@ -12,20 +12,14 @@ std::string PositionText(Vec2 world, std::int32_t units) {
   return FormatLength(world.x, units) + ",  " + FormatLength(world.y, units);
 }
 
-constexpr const char* kTapeStart = "Click where the tape begins. Escape puts the tool away.";
-constexpr const char* kTapeEnd = "Click where the tape ends. Escape puts the tool away.";
-constexpr const char* kFirstCorner =
-    "Click the corners of the polygon one after the other. Escape puts the tool away.";
-constexpr const char* kNextCorner =
-    "Click the next corner. Backspace takes the last one back; Escape gives up.";
+// In a small window there is room for some sixty letters.
+constexpr const char* kTapeStart = "Click where the tape begins; Escape puts the tool away.";
+constexpr const char* kTapeEnd = "Click where the tape ends; Escape puts the tool away.";
+constexpr const char* kFirstCorner = "Click the polygon's corners; Escape puts the tool away.";
+constexpr const char* kNextCorner = "Click the next corner; Backspace takes one back, Escape all.";
 constexpr const char* kLastCorner =
-    "Click the next corner, or the first one (or press Enter) to close. Backspace takes the last "
-    "one "
-    "back; Escape gives up.";
-constexpr const char* kHangingPiece =
-    "Click to set the piece down. The wheel, R and the right button turn it; Escape gives it up.";
-constexpr const char* kHangingScenery =
-    "Click to set it down. The wheel, R and the right button turn it; Escape gives it up.";
+    "Next corner, or the first (or Enter) to close; Escape gives up.";
+constexpr const char* kHanging = "Click sets it down, the wheel or R turns it, Escape gives it up.";
 constexpr const char* kHangingHelix = "Click where the middle of the helix should lie.";
 
 constexpr std::size_t kFewestVertices = 3;
@@ -48,8 +42,7 @@ const char* PromptOf(const CanvasContext& context) {
     default:
       break;
   }
-  if (state.paletteDrag.active) return kHangingPiece;
-  if (state.sceneryDrag.active) return kHangingScenery;
+  if (state.paletteDrag.active || state.sceneryDrag.active) return kHanging;
   return state.helixPlacement.active ? kHangingHelix : "";
 }
 
