@@ -209,9 +209,9 @@ program offers up to 6 and warns in red beside a steeper piece. Arch and truss b
 automatically end the grade chain and sit flat. Ramps carry the climb on.
 
 You can also type a height for the selected piece and press Enter. A comma is as good as a point in
-every number, and a field that was given none turns red and keeps the one it had. To carry it on, select the
-piece that follows and press Recalc: it takes its height from the piece before, and the level
-track behind it goes along.
+every number, and a field that was given none turns red and keeps the one it had. To carry it on,
+select the piece that follows and press Recalc: it takes its height from the piece before, and the
+level track behind it goes along.
 
 A helix climbs in rings. C-Track's palette lists helix kits below the bridges: drag one onto the
 canvas, click to set it down, and join track to its four ends. Click any of its ends to select and
@@ -223,8 +223,8 @@ The 3D View button opens a window that shows your plan as a model, with grades, 
 tunnels and scenery. It follows every change you make, so leave it open beside the plan.
 
 Drag with the left button to turn the model, with the right button to move it. The mouse wheel
-zooms. R brings the first view back and keeps the zoom. Levels that are hidden don't show. The keys of
-the menus work in this window too: Ctrl+S saves, Ctrl+Z takes a step back.
+zooms. R brings the first view back and keeps the zoom. Levels that are hidden don't show. The keys
+of the menus work in this window too: Ctrl+S saves, Ctrl+Z takes a step back.
 )text";
 
 constexpr std::string_view kLayoutShape = R"text(

@@ -324,26 +324,11 @@ TEST_F(CommandHandlers, UnitsChangeOnlyWhatIsShown) {
 
 TEST_F(CommandHandlers, AnotherUnitPaintsTheCanvasAnew) {
   showFrame();
-  int paints = 0;
-  frame().canvas().Bind(wxEVT_PAINT, [&paints](wxPaintEvent& event) {
-    ++paints;
-    event.Skip();
-  });
-  const auto pump = [] {
-    for (int i = 0; i < 20; ++i) {
-      wxTheApp->Yield();
-      wxMilliSleep(5);
-    }
-  };
-  pump();
   for (const int id : {kCmdInches, kCmdCentimetres, kCmdMillimetres}) {
-    paints = 0;
-    pump();
-    ASSERT_EQ(paints, 0) << "at rest nothing is painted";
+    waitForRest();
+    const PaintCount paints(frame().canvas());
     command(id, true);
-    for (int i = 0; i < 50 && paints == 0; ++i) pump();
-    EXPECT_GT(paints, 0) << id;
-    pump();
+    EXPECT_TRUE(WaitUntil([&paints] { return paints.count() > 0; })) << id;
   }
 }
 

@@ -1,6 +1,7 @@
 // A main frame in folders of its own, with the experience question already answered for business.
 #pragma once
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/debug.h>
@@ -10,6 +11,7 @@
 #include <wx/toolbar.h>
 #include <wx/utils.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -20,6 +22,7 @@
 #include "frame/main_frame.h"
 #include "tests/support/modal_script.h"
 #include "tests/support/temp_folder.h"
+#include "tests/support/waiting.h"
 
 namespace vantrel {
 
@@ -71,16 +74,21 @@ class FrameTest : public testing::Test {
   // Shows the frame and waits until it is on the screen, which is up to the window manager: before
   // that a window can't take the mouse.
   void showFrame() {
-    frame().canvas().Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
-      painted_ = true;
-      event.Skip();
-    });
     frame().Show();
-    for (int i = 0; i < 1000 && !painted_; ++i) {
-      wxTheApp->Yield();
-      wxMilliSleep(5);
-    }
-    EXPECT_TRUE(painted_);
+    WaitForPaint(frame().canvas());
+  }
+
+  // Waits until the status bar is painted without the canvas, twice: by itself the canvas is not
+  // painted any more.
+  void waitForRest() {
+    WaitUntilSettled(frame().canvas());
+    PaintCount paints(frame().canvas());
+    EXPECT_TRUE(WaitUntil([&] {
+      WaitForPaint(*frame().GetStatusBar());
+      paints.reset();
+      WaitForPaint(*frame().GetStatusBar());
+      return paints.count() == 0;
+    })) << "the canvas is painted again and again";
   }
 
   // A left press on the canvas and a motion with the button down; no release. The frame must be on
@@ -140,7 +148,6 @@ class FrameTest : public testing::Test {
   MainFrame* frame_ = nullptr;
 
  private:
-  bool painted_ = false;
   wxAssertHandler_t previousHandler_ = nullptr;
 };
 
@@ -167,6 +174,18 @@ inline void ClickRow(wxDialog& dialog, int row) {
   ClickRow(*list, row);
 }
 
+// What the folder dialog would give if it were accepted now, asked of the platform: the toolkit's
+// GetPath() knows it only afterwards.
+inline std::string FolderShownIn(const wxDirDialog& chooser) {
+  using GetFileName = char* (*)(void*);
+  const auto getFileName =
+      reinterpret_cast<GetFileName>(dlsym(RTLD_DEFAULT, "gtk_file_chooser_get_filename"));
+  if (getFileName == nullptr) return {};
+  const std::unique_ptr<char, decltype(&std::free)> name(getFileName(chooser.GetHandle()),
+                                                         &std::free);
+  return name ? name.get() : "";
+}
+
 // Chooses a folder in the platform's own folder dialog, which has to be on the screen for that.
 inline ModalScript::Action ChooseFolder(const std::string& question, const std::string& folder) {
   return [=](wxDialog& dialog) {
@@ -174,10 +193,7 @@ inline ModalScript::Action ChooseFolder(const std::string& question, const std::
     ASSERT_NE(chooser, nullptr);
     EXPECT_EQ(chooser->GetMessage(), wxString(question));
     chooser->SetPath(folder);
-    for (int i = 0; i < 30; ++i) {
-      wxTheApp->Yield();
-      wxMilliSleep(10);
-    }
+    EXPECT_TRUE(WaitUntil([&] { return FolderShownIn(*chooser) == folder; }));
     chooser->GTKOnAccept();
   };
 }

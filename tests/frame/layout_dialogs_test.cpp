@@ -49,26 +49,10 @@ class LayoutDialogs : public FrameTest {
   // Whether the canvas is painted because of `act`, which is to show nothing on the screen.
   bool paints(const std::function<void()>& act) {
     showFrame();
-    int count = 0;
-    frame().canvas().Bind(wxEVT_PAINT, [&count](wxPaintEvent& event) {
-      ++count;
-      event.Skip();
-    });
-    pump(40);
-    count = 0;
-    pump(40);
-    EXPECT_EQ(count, 0) << "at rest nothing is painted";
+    waitForRest();
+    const PaintCount paints(frame().canvas());
     act();
-    for (int i = 0; i < 50 && count == 0; ++i) pump(20);
-    return count > 0;
-  }
-
- private:
-  static void pump(int times) {
-    for (int i = 0; i < times; ++i) {
-      wxTheApp->Yield();
-      wxMilliSleep(5);
-    }
+    return WaitUntil([&paints] { return paints.count() > 0; });
   }
 };
 

@@ -20,14 +20,6 @@ namespace {
 
 using MainFrameTest = FrameTest;
 
-// Lets the window come up on the screen, or settle after a change.
-void Settle() {
-  for (int i = 0; i < 20; ++i) {
-    wxTheApp->Yield();
-    wxMilliSleep(10);
-  }
-}
-
 TEST_F(MainFrameTest, TracesItsConstructionStepByStep) {
   frame();
   EXPECT_EQ(ReadFileText(folders_.data + "/mainframe.log"),
@@ -82,7 +74,7 @@ TEST_F(MainFrameTest, PrintsOnLetterInLandscapeWithMarginsOf15Mm) {
 
 TEST_F(MainFrameTest, GivesTheCanvasAllTheRoomThatTheWindowGains) {
   frame().Show();
-  Settle();
+  WaitUntilSettled(frame().canvas());
   EXPECT_GE(frame().palette().GetSize().x, 235);
   // 280 or more to the right of the sash, which has a width of its own.
   const auto* inner = dynamic_cast<wxSplitterWindow*>(frame().canvas().GetParent());
@@ -94,7 +86,7 @@ TEST_F(MainFrameTest, GivesTheCanvasAllTheRoomThatTheWindowGains) {
   const int canvasWidth = frame().canvas().GetSize().x;
   const int frameWidth = frame().GetSize().x;
   frame().SetSize(1500, 900);
-  Settle();
+  WaitUntilSettled(frame().canvas());
   EXPECT_EQ(frame().palette().GetSize().x, paletteWidth);
   EXPECT_EQ(frame().properties().GetSize().x, propertiesWidth);
   EXPECT_EQ(frame().canvas().GetSize().x - canvasWidth, frame().GetSize().x - frameWidth);
@@ -103,7 +95,7 @@ TEST_F(MainFrameTest, GivesTheCanvasAllTheRoomThatTheWindowGains) {
 // A tab that the toolkit has put behind its arrows lies under no point.
 TEST_F(MainFrameTest, ShowsTheTabsOfAllPalettePagesAtOnce) {
   frame().Show();
-  Settle();
+  WaitUntilSettled(frame().canvas());
   const auto* pages = FindControl<wxNotebook>(frame().palette());
   ASSERT_NE(pages, nullptr);
   std::set<int> seen;
@@ -114,7 +106,7 @@ TEST_F(MainFrameTest, ShowsTheTabsOfAllPalettePagesAtOnce) {
 
 TEST_F(MainFrameTest, HasRoomInTheStatusBarForWhatItSays) {
   frame().Show();
-  Settle();
+  WaitUntilSettled(frame().canvas());
   const wxStatusBar& bar = *frame().GetStatusBar();
   const auto room = [&bar](int field) {
     wxRect rect;
@@ -183,7 +175,7 @@ TEST_F(MainFrameTest, MenuHelpNeverCoversTheStatus) {
 
 TEST_F(MainFrameTest, ConnectsThePaletteToTheCanvas) {
   frame().Show();
-  Settle();
+  WaitUntilSettled(frame().canvas());
   auto* pages = FindControl<wxNotebook>(frame().palette());
   auto* scenery = dynamic_cast<wxListBox*>(frame().FindWindow(kSceneryListId));
   ASSERT_TRUE(pages && scenery);

@@ -31,12 +31,7 @@ class SidePanesTest : public FrameTest {
     settle();
   }
 
-  static void settle() {
-    for (int i = 0; i < 20; ++i) {
-      wxTheApp->Yield();
-      wxMilliSleep(5);
-    }
-  }
+  void settle() { WaitUntilSettled(frame().canvas()); }
 
   // As the user's mouse leaves a sash.
   void dragSash(wxSplitterWindow& splitter, int position) {

@@ -41,10 +41,7 @@ class FrameTally : public FrameTest {
   // The canvas takes the mouse, which only a window on the screen can.
   void show() {
     frame().Show();
-    for (int i = 0; i < 20; ++i) {
-      wxTheApp->Yield();
-      wxMilliSleep(5);
-    }
+    WaitUntilSettled(frame().canvas());
   }
 
   void pointer(const wxEventTypeTag<wxMouseEvent>& type, wxPoint at) {

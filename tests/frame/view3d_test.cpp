@@ -1,3 +1,4 @@
+#include <wx/timer.h>
 #include <wx/toplevel.h>
 
 #include <algorithm>
@@ -21,15 +22,13 @@ int OpenViews() {
 class View3D : public FrameTest {
  protected:
   ~View3D() override {
-    // Painting and deferred deletion need a few turns of the event loop.
-    pump();
+    // A closed view is deleted when nothing else is to be done.
+    EXPECT_TRUE(WaitUntil([] { return std::ranges::none_of(wxTopLevelWindows, IsLeaving); }));
   }
 
-  void pump() {
-    for (int i = 0; i < 20; ++i) {
-      wxTheApp->Yield();
-      wxMilliSleep(5);
-    }
+  static bool IsLeaving(wxWindow* window) { return wxTheApp->IsScheduledForDestruction(window); }
+  static bool allViewsGo() {
+    return WaitUntil([] { return OpenViews() == 0; });
   }
 
   View3DFrame& open() {
@@ -39,11 +38,7 @@ class View3D : public FrameTest {
   TrackGLCanvas& canvas() { return *open().canvas(); }
   // As the next paint would show it.
   std::size_t piecesShown() {
-    for (int i = 0; i < 200 && canvas().isStale(); ++i) {
-      wxTheApp->Yield();
-      wxMilliSleep(5);
-    }
-    EXPECT_FALSE(canvas().isStale()) << "no paint came";
+    EXPECT_TRUE(WaitUntil([this] { return !canvas().isStale(); })) << "no paint came";
     return canvas().scene().trackInstances.size();
   }
 };
@@ -73,8 +68,7 @@ TEST_F(View3D, ClosingItIsForgottenAndItOpensAgain) {
   EXPECT_EQ(frame().view3D(), nullptr);
   frame().markDirty();
   frame().refreshViews();
-  pump();
-  EXPECT_EQ(OpenViews(), 0);
+  EXPECT_TRUE(allViewsGo());
   addPiece();
   command(2000);
   ASSERT_NE(frame().view3D(), nullptr);
@@ -87,11 +81,10 @@ TEST_F(View3D, OpensAndClosesManyTimes) {
   for (int i = 0; i < 10; ++i) {
     command(2000);
     ASSERT_NE(frame().view3D(), nullptr);
-    if (i % 2 == 0) pump();
+    if (i % 2 == 0) WaitForPaint(canvas());
     frame().view3D()->Close();
   }
-  pump();
-  EXPECT_EQ(OpenViews(), 0);
+  EXPECT_TRUE(allViewsGo());
 }
 
 TEST_F(View3D, FollowsEveryChangeOfTheDocument) {
@@ -134,7 +127,7 @@ TEST_F(View3D, FollowsAPlacementOnTheCanvas) {
 
 TEST_F(View3D, ABurstOfChangesIsOneRebuild) {
   open();
-  pump();
+  WaitForPaint(canvas());
   for (int i = 0; i < 5; ++i) {
     addPiece();
     frame().markDirty();
@@ -147,12 +140,18 @@ TEST_F(View3D, ABurstOfChangesIsOneRebuild) {
 TEST_F(View3D, WaitsForTheEndOfADragOnTheCanvas) {
   open();
   showFrame();
-  pump();
+  WaitForPaint(canvas());
   ASSERT_FALSE(canvas().isStale());
+  int looks = 0;  // of its timer, whether the drag is over
+  canvas().Bind(wxEVT_TIMER, [&looks](wxTimerEvent& event) {
+    ++looks;
+    event.Skip();
+  });
   frame().canvas().CaptureMouse();
   addPiece();
   frame().markDirty();
-  for (int i = 0; i < 5; ++i) pump();  // half a second
+  EXPECT_TRUE(WaitUntil([&looks] { return looks == 3; }));
+  WaitForPaint(frame().canvas());
   EXPECT_TRUE(canvas().isStale());
   frame().canvas().ReleaseMouse();
   EXPECT_EQ(piecesShown(), 1u);
@@ -161,7 +160,7 @@ TEST_F(View3D, WaitsForTheEndOfADragOnTheCanvas) {
 TEST_F(View3D, WhatOnlyTheCanvasShowsKeepsTheZoomOfTheView) {
   addPiece();
   open();
-  pump();
+  WaitForPaint(canvas());
   for (const int id : {2005, 2006, 2007, 2008, 2009, 2010, 2011, 2017}) command(id, true);
   EXPECT_FALSE(canvas().isStale());
 }
@@ -169,11 +168,10 @@ TEST_F(View3D, WhatOnlyTheCanvasShowsKeepsTheZoomOfTheView) {
 TEST_F(View3D, GoesWithTheMainWindow) {
   addPiece();
   open();
-  pump();
+  WaitForPaint(canvas());
   delete frame_;
   frame_ = nullptr;
-  pump();
-  EXPECT_EQ(OpenViews(), 0);
+  EXPECT_TRUE(allViewsGo());
 }
 
 TEST_F(View3D, GoesWithTheMainWindowThatTheUserCloses) {
@@ -186,8 +184,7 @@ TEST_F(View3D, GoesWithTheMainWindowThatTheUserCloses) {
              wxID_NO);
   frame_->Close();
   frame_ = nullptr;
-  pump();
-  EXPECT_EQ(OpenViews(), 0);
+  EXPECT_TRUE(allViewsGo());
 }
 
 TEST_F(View3D, AMainWindowThatGoesRightAfterItsViewLeavesNothing) {
@@ -196,8 +193,7 @@ TEST_F(View3D, AMainWindowThatGoesRightAfterItsViewLeavesNothing) {
   frame().view3D()->Close();
   delete frame_;
   frame_ = nullptr;
-  pump();
-  EXPECT_EQ(OpenViews(), 0);
+  EXPECT_TRUE(allViewsGo());
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <wx/choice.h>
+#include <wx/eventfilter.h>
 #include <wx/listctrl.h>
 #include <wx/spinctrl.h>
 #include <wx/textctrl.h>
@@ -17,37 +18,49 @@
 namespace vantrel {
 namespace {
 
+// Whether a key has come up since: this one, or any.
+class KeyRelease : public wxEventFilter {
+ public:
+  explicit KeyRelease(int key) : key_(key) { wxEvtHandler::AddFilter(this); }
+  ~KeyRelease() override { wxEvtHandler::RemoveFilter(this); }
+  KeyRelease(const KeyRelease&) = delete;
+  KeyRelease& operator=(const KeyRelease&) = delete;
+
+  int FilterEvent(wxEvent& event) override {
+    if (event.GetEventType() == wxEVT_KEY_UP &&
+        (key_ == WXK_NONE || dynamic_cast<wxKeyEvent&>(event).GetKeyCode() == key_))
+      came_ = true;
+    return Event_Skip;
+  }
+  bool came() const { return came_; }
+
+ private:
+  int key_;
+  bool came_ = false;
+};
+
 class ZoomKeys : public FrameTest {
  protected:
   void SetUp() override {
     showFrame();
     frame().Raise();
-    waitUntil([] { return wxWindow::FindFocus() != nullptr; });
-  }
-
-  template <typename Condition>
-  void waitUntil(const Condition& condition) {
-    for (int i = 0; i < 400 && !condition(); ++i) {
-      wxTheApp->Yield();
-      wxMilliSleep(5);
-    }
+    WaitUntil([] { return wxWindow::FindFocus() != nullptr; });
   }
 
   void focus(wxWindow& window) {
     window.SetFocus();
-    waitUntil([&window] { return window.HasFocus(); });
-    ASSERT_TRUE(window.HasFocus());
+    ASSERT_TRUE(WaitUntil([&window] { return window.HasFocus(); }));
   }
 
   double scale() { return frame().canvas().view().scale; }
 
-  // A real key.
+  // A real key: what it does is done when what was pressed last has come up.
   void press(int key, int modifiers = 0) {
+    const KeyRelease release(modifiers == wxMOD_SHIFT     ? WXK_SHIFT
+                             : modifiers == wxMOD_CONTROL ? WXK_CONTROL
+                                                          : WXK_NONE);
     wxUIActionSimulator().Char(key, modifiers);
-    for (int i = 0; i < 20; ++i) {
-      wxTheApp->Yield();
-      wxMilliSleep(5);
-    }
+    EXPECT_TRUE(WaitUntil([&release] { return release.came(); })) << key;
   }
 
   // Every key of either sign, from the scale at the start and back.

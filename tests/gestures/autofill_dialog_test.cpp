@@ -14,6 +14,7 @@
 
 #include "doc/records.h"
 #include "tests/support/modal_script.h"
+#include "tests/support/waiting.h"
 
 namespace vantrel {
 namespace {
@@ -74,10 +75,7 @@ TEST_F(AutofillDialogTest, ShowsTwelveRowsOfEightPiecesWholeWithoutScrolling) {
   rows.assign(12, row + "  (2880.0 mm)");
   AutofillDialog dialog(frame, 2880.0, rows);
   dialog.Show();
-  for (int i = 0; i < 20; ++i) {
-    wxTheApp->Yield();
-    wxMilliSleep(5);
-  }
+  WaitUntilSettled(dialog);
   const wxListBox& list = listOf(dialog);
   EXPECT_GE(list.GetClientSize().x, list.GetTextExtent(rows[0]).x + 8);
   // The last row lies at the foot of what is seen, not behind it.

@@ -3,11 +3,10 @@
 
 #include <gtest/gtest.h>
 #include <wx/dialog.h>
-#include <wx/evtloop.h>
 #include <wx/frame.h>
 #include <wx/modalhook.h>
 #include <wx/msgdlg.h>
-#include <wx/utils.h>
+#include <wx/weakref.h>
 
 #include <array>
 #include <limits>
@@ -16,6 +15,7 @@
 
 #include "canvas/operations/placing.h"
 #include "catalog/track_catalog.h"
+#include "tests/support/waiting.h"
 
 namespace vantrel {
 namespace {
@@ -69,19 +69,16 @@ class CanvasWindow : public testing::Test {
     settle();
   }
   ~CanvasWindow() override {
+    const wxWeakRef<wxFrame> leaving(frame);
     frame->Destroy();
-    settle();
+    EXPECT_TRUE(WaitUntil([&leaving] { return leaving.get() == nullptr; }));
   }
 
-  // Lets the display server and the toolkit catch up; frames are painted only inside a loop.
-  static void settle() {
-    wxGUIEventLoop loop;
-    const wxEventLoopActivator active(&loop);
-    for (int i = 0; i < 20; ++i) {
-      while (loop.Pending()) loop.Dispatch();
-      loop.ProcessIdle();
-      wxMilliSleep(5);
-    }
+  // Lets the display server and the toolkit catch up.
+  void settle() { WaitUntilSettled(*canvas); }
+  // For tests of what makes the canvas paint, which don't ask for a paint themselves.
+  bool comesToSay(StatusField field, const std::string& text) {
+    return WaitUntil([&] { return workspace.texts[field] == text; });
   }
 
   bool mouse(wxEventType type, int x, int y, bool left = false, int rotation = 0,
@@ -132,16 +129,14 @@ TEST_F(CanvasWindow, PaintsWheneverItIsRefreshed) {
   run.deg = 2.5;
   workspace.document.gradeRuns.push_back(run);
   canvas->Refresh();
-  settle();
-  EXPECT_EQ(workspace.texts[kStatusMessage], "[ELEV] 2.5 deg  (right-click piece to stop)");
+  EXPECT_TRUE(comesToSay(kStatusMessage, "[ELEV] 2.5 deg  (right-click piece to stop)"));
 }
 
 TEST_F(CanvasWindow, PaintsAgainAfterAChangeOfSize) {
   settle();
   workspace.texts[kStatusMessage] = "[ELEV] stale";
   frame->SetSize(1000, 750);
-  settle();
-  EXPECT_EQ(workspace.texts[kStatusMessage], "Ready");
+  EXPECT_TRUE(comesToSay(kStatusMessage, "Ready"));
 }
 
 TEST_F(CanvasWindow, ADragFromThePaletteEndsInAPieceAtTheNextPress) {

@@ -22,6 +22,7 @@
 #include "properties/wrapped_label.h"
 #include "tests/inspection/inspection_support.h"
 #include "tests/support/modal_script.h"
+#include "tests/support/waiting.h"
 
 namespace vantrel {
 
@@ -66,14 +67,14 @@ class PanelTest : public testing::Test {
   void show() {
     frame->Show();
     frame->Raise();
+    EXPECT_TRUE(WaitUntil([this] { return frame->IsActive(); }));
     settle();
   }
 
-  static void settle() {
-    for (int i = 0; i < 10; ++i) {
-      wxTheApp->Yield();
-      wxMilliSleep(5);
-    }
+  // A hidden window has nothing to wait for from outside.
+  void settle() {
+    wxTheApp->Yield();
+    if (frame->IsShown()) WaitUntilSettled(*panel);
   }
 
   Layout& plan() { return workspace.document; }

@@ -21,6 +21,7 @@
 #include "properties/tally_list.h"
 #include "tests/shopping/shopping_support.h"
 #include "tests/support/modal_script.h"
+#include "tests/support/waiting.h"
 
 namespace vantrel {
 namespace {
@@ -67,10 +68,7 @@ class TallyPanelTest : public testing::Test {
 
   void show() {
     frame->Show();
-    for (int i = 0; i < 20; ++i) {
-      wxTheApp->Yield();
-      wxMilliSleep(5);
-    }
+    WaitUntilSettled(*panel);
   }
 
   void press(const wxString& label) {

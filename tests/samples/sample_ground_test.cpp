@@ -7,6 +7,7 @@
 #include <cmath>
 #include <filesystem>
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -225,6 +226,13 @@ TEST_P(SampleGround, TheLastChoiceOfTheTableDialogIsTheTableThatThePlanHas) {
 
 TEST_P(SampleGround, LabelsSayWhatThereIsToSee) {
   EXPECT_GE(layout_.labels.size(), 3u);
+  std::set<std::string> texts;
+  for (const Label& label : layout_.labels) {
+    EXPECT_TRUE(std::ranges::any_of(label.text, [](unsigned char c) { return c > ' '; }))
+        << "nothing to read at " << label.x << ", " << label.y;
+    EXPECT_TRUE(texts.insert(label.text).second) << label.text << " stands there twice";
+    EXPECT_TRUE(IsInsidePolygon({label.x, label.y}, layout_.baseboard)) << label.text;
+  }
 }
 
 std::string TestNameOf(const testing::TestParamInfo<fs::path>& sample) {

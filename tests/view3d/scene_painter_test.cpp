@@ -37,7 +37,7 @@ class Painter : public testing::Test {
     context_ = std::make_unique<wxGLContext>(canvas_);
     frame_->Show();
     PumpUntil([this] { return canvas_->IsShownOnScreen(); });
-    PumpEvents(50);
+    WaitForPaint(*canvas_);
     ready_ = canvas_->SetCurrent(*context_);
     SetUpPainting();
   }

@@ -237,9 +237,9 @@ TEST_F(GlCanvas, ARebuildFramesAnewAndKeepsDirectionAndPan) {
 TEST_F(GlCanvas, PaintsOnWithoutAClientArea) {
   view();
   canvas().SetSize(0, 0);
-  PumpEvents(50);
+  WaitForPaint(view());
   canvas().Rebuild(plan_);
-  PumpEvents(50);
+  WaitForPaint(view());
   canvas().SetSize(300, 200);
   EXPECT_TRUE(paintsWhatChanged());
 }

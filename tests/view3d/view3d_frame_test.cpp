@@ -103,7 +103,7 @@ TEST_F(Frame3D, OpensAndClosesAgainAndAgain) {
     EXPECT_TRUE(ColoursOf(canvas()).contains(kBackground)) << i;
     view_->Close();
     view_ = nullptr;
-    PumpEvents(20);
+    WaitForClosedWindows();
   }
 }
 
@@ -115,7 +115,7 @@ TEST_F(Frame3D, TwoCanvasesDontDisturbEachOther) {
   PumpUntil([second] { return ColoursOf(*second->canvas()).contains(kBackground); });
   EXPECT_TRUE(PumpUntil([second] { return ColoursOf(*second->canvas()).contains(kGreenAxis); }));
   second->Close();
-  PumpEvents(30);
+  WaitForClosedWindows();
   view().Rebuild(plan_);
   ASSERT_TRUE(paintsWhatChanged());
   EXPECT_TRUE(PumpUntil([this] { return ShowsTrack(canvas()); }));

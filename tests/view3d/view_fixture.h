@@ -5,6 +5,7 @@
 #include <wx/app.h>
 #include <wx/utils.h>
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <memory>
@@ -13,27 +14,25 @@
 #include <vector>
 
 #include "doc/layout.h"
+#include "tests/support/waiting.h"
 #include "tests/view3d/screen_pixels.h"
 #include "view3d/track_gl_canvas.h"
 #include "view3d/view3d_frame.h"
 
 namespace vantrel {
 
-inline void PumpEvents(int milliseconds) {
-  for (int waited = 0; waited <= milliseconds; waited += 5) {
-    wxTheApp->Yield();
-    wxMilliSleep(5);
-  }
+// A closed window is deleted when nothing else is to be done.
+inline void WaitForClosedWindows() {
+  EXPECT_TRUE(WaitUntil([] {
+    return std::ranges::none_of(wxTopLevelWindows, [](wxWindow* window) {
+      return wxTheApp->IsScheduledForDestruction(window);
+    });
+  }));
 }
 
 // Lets events run until the condition holds; false when it never does.
 inline bool PumpUntil(const std::function<bool()>& condition) {
-  for (int tries = 0; tries < 400; ++tries) {
-    wxTheApp->Yield();
-    if (condition()) return true;
-    wxMilliSleep(5);
-  }
-  return false;
+  return WaitUntil(condition);
 }
 
 using Colour = std::tuple<int, int, int>;
