@@ -47,8 +47,9 @@ void MainFrame::buildPanels() {
   auto* sizer = new wxBoxSizer(wxHORIZONTAL);
   wxSplitterWindow* outer = MakeSplitter(root_, GetClientSize(), kLeftStays);
   palette_ = new PalettePanel(outer, *this, PathIn(folders_.store, kLibraryFolder));
-  palette_->SetMinSize(wxSize(kPaletteMinWidth, -1));
-  const int paletteSash = std::max(kPaletteSash, palette_->widthOfTabs());
+  const int paletteMin = std::max(kPaletteMinWidth, palette_->smallestWidth());
+  palette_->SetMinSize(wxSize(paletteMin, -1));
+  const int paletteSash = std::max({kPaletteSash, palette_->widthOfTabs(), paletteMin});
   FrameLog("BuildPanels: palette created");
   wxSplitterWindow* inner = MakeSplitter(
       outer, outer->GetSize() - wxSize(paletteSash + outer->GetSashSize(), 0), kLeftGrows);
@@ -59,7 +60,8 @@ void MainFrame::buildPanels() {
   wxWindow* right = buildProperties(inner);
   FrameLog("BuildPanels: properties created");
   const int propertiesSash =
-      std::max(kPropertiesSash, properties_->usualWidth() + inner->GetSashSize());
+      std::max(kPropertiesSash,
+               inner->GetSashSize() + std::max(properties_->usualWidth(), right->GetMinWidth()));
   inner->SplitVertically(canvas_, right, -propertiesSash);
   inner->SetMinimumPaneSize(kInnerMinPane);
   FrameLog("BuildPanels: split done");
@@ -90,6 +92,8 @@ wxWindow* MainFrame::buildProperties(wxWindow* parent) {
   column->Add(properties_, 1, wxEXPAND);
   column->Add(foot, 0, wxEXPAND);
   pane->SetSizer(column);
+  pane->SetMinSize(
+      wxSize(std::max({kInnerMinPane, properties_->smallestWidth(), foot->GetBestSize().x}), -1));
   return pane;
 }
 

@@ -7,6 +7,8 @@
 #include <wx/toolbar.h>
 #include <wx/utils.h>
 
+#include <algorithm>
+
 #include "app/services/frame_log.h"
 #include "app/services/opening_size.h"
 #include "app/services/prefs.h"
@@ -34,6 +36,7 @@ constexpr int kStatusFields = 3;
 // What the fields of the status bar have room for.
 constexpr const char* kWidestPieces = "Pieces: 1000000";
 constexpr const char* kWidestPosition = "-100000 mm,  -100000 mm";
+constexpr const char* kShortMessage = "Piece moved";
 constexpr int kSmallestLines = 20;  // of text that the panes have room for
 constexpr int kPageMarginMm = 15;
 constexpr int kLongestWaitMs = 1000;
@@ -91,12 +94,14 @@ void MainFrame::divideStatusBar() {
   const int position = bar.GetTextExtent(kWidestPosition).x + gap + bar.GetSize().y;
   const int widths[kStatusFields] = {-1, pieces, position};
   SetStatusWidths(kStatusFields, widths);
+  statusWidth_ = pieces + position + bar.GetTextExtent(kShortMessage).x + gap;
 }
 
-// In a smaller window something could be reached no more: a pane would lie beneath another, or the
-// palette show no part.
+// In a smaller window something could be reached no more: a pane would lie beneath another or be
+// narrower than a control in it, the palette show no part, the status bar no message.
 void MainFrame::limitSize() {
-  const wxSize least(panes_->smallestWidth(), kSmallestLines * GetCharHeight());
+  const wxSize least(std::max(panes_->smallestWidth(), statusWidth_),
+                     kSmallestLines * GetCharHeight());
   wxSize smallest = ClientToWindowSize(least);
   smallest.DecTo(wxDisplay(this).GetClientArea().GetSize());
   SetMinSize(smallest);
@@ -117,6 +122,7 @@ void MainFrame::watchFirstPaint() {
     event.Skip();
     if (painted_) return;
     painted_ = true;
+    CallAfter(&MainFrame::limitSize);  // how wide the frame around it is shows only now
     if (GetPosition() == wxPoint(0, 0)) CallAfter([this] { Centre(wxBOTH); });
   });
 }

@@ -158,6 +158,7 @@ class MainFrame : public wxFrame, public Workspace {
   std::set<std::string> keptLevelNames_;
   bool dirty_ = false;
   bool discardAgreed_ = false;  // in a flow in which the user said to drop the changes
+  int statusWidth_ = 0;         // at which the first field of the status bar still says something
   bool painted_ = false;        // the window has come up on the screen
   bool splashShown_ = false;
   bool experienceDue_ = false;

@@ -35,7 +35,8 @@ int SidePanes::smallestWidth() const {
 }
 
 PaneWidths SidePanes::smallest() const {
-  return {outer_.GetMinimumPaneSize(), inner_.GetMinimumPaneSize()};
+  return {std::max(outer_.GetMinimumPaneSize(), outer_.GetWindow1()->GetMinWidth()),
+          std::max(inner_.GetMinimumPaneSize(), inner_.GetWindow2()->GetMinWidth())};
 }
 
 // For the panes, without the sashes between them.

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <utility>
 
+#include "app/services/least_width.h"
 #include "app/services/wx_text.h"
 #include "catalog/helix_kits.h"
 #include "catalog/scenery_catalog.h"
@@ -101,6 +102,10 @@ int PalettePanel::widthOfTabs() const {
   for (std::size_t page = 0; page < notebook_->GetPageCount(); ++page)
     width += notebook_->GetTextExtent(notebook_->GetPageText(page)).x + kTabAir;
   return width;
+}
+
+int PalettePanel::smallestWidth() const {
+  return LeastWidth(*notebook_) + 2 * kBorder;
 }
 
 void PalettePanel::RefreshAll() {

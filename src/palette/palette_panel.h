@@ -40,6 +40,8 @@ class PalettePanel : public wxPanel, private TrackIconGridListener {
 
   // The width at which the tabs of all pages are in view, in pixels.
   int widthOfTabs() const;
+  // The width at which the arrows beside the tabs and any one of them are in view, in pixels.
+  int smallestWidth() const;
 
   // Fills every page for the chosen system and brings the "Scenery" page back if it was removed,
   // whichever system that is.

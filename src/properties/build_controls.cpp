@@ -14,7 +14,9 @@
 #include "app/services/number_entry.h"
 #include "app/services/one_line_field.h"
 #include "app/services/wx_text.h"
+#include "inspection/page_texts.h"
 #include "inspection/selection_edits.h"
+#include "inspection/shown_unit.h"
 #include "properties/properties_panel.h"
 #include "properties/tally_panel.h"
 #include "properties/warning_colour.h"
@@ -41,11 +43,15 @@ constexpr int kHintLines = 4;
 
 constexpr double kGradeStepDeg = 0.5;
 
+// None that is usual shows as a longer text.
+constexpr double kLongestGradeDeg = -10.0;
+
 const int kMiddle = wxALIGN_CENTRE_VERTICAL;
 
 WrappedLabel* AddWrapped(wxWindow* parent, wxSizer* sizer, const char* name, int lines) {
   auto* label = new WrappedLabel(parent, lines);
   label->SetName(name);
+  label->SetMinSize(wxSize(0, -1));  // takes what width there is
   sizer->Add(label, 0, wxEXPAND);
   return label;
 }
@@ -69,6 +75,19 @@ wxSize AtLeast(int width, const wxWindow& control) {
   return {std::max(width, control.GetBestSize().x), -1};
 }
 
+// As wide as its label at least. A plain one would want the width at which its controls stood last.
+class Frame : public wxStaticBox {
+ public:
+  using wxStaticBox::wxStaticBox;
+
+ private:
+  wxSize DoGetBestSize() const override { return GetTextExtent(GetLabel()); }
+};
+
+wxStaticBoxSizer* MakeFrame(wxWindow* parent, const char* label) {
+  return new wxStaticBoxSizer(new Frame(parent, wxID_ANY, label), wxVERTICAL);
+}
+
 // A sizer inside the frame of a static box that stands in the column.
 wxBoxSizer* AddFramed(wxSizer* column, wxStaticBoxSizer* frame, wxOrientation direction) {
   auto* inside = new wxBoxSizer(direction);
@@ -82,7 +101,7 @@ wxBoxSizer* AddFramed(wxSizer* column, wxStaticBoxSizer* frame, wxOrientation di
 void PropertiesPanel::build(wxWindow* foot) {
   auto* column = new wxBoxSizer(wxVERTICAL);
   SetSizer(column);
-  SetScrollRate(0, kScrollStep);
+  SetScrollRate(kScrollStep, kScrollStep);
   buildLabelBox(column);
   buildTitle(column);
   buildLevelRow(column);
@@ -90,10 +109,11 @@ void PropertiesPanel::build(wxWindow* foot) {
   buildGradeBox(column);
   tally_ = new TallyPanel(this, workspace_, {}, foot);
   column->Add(tally_, 1, wxEXPAND);
+  widestContents_ = contentsWidth();
 }
 
 void PropertiesPanel::buildLabelBox(wxSizer* column) {
-  auto* frame = new wxStaticBoxSizer(wxVERTICAL, this, "Add Label");
+  auto* frame = MakeFrame(this, "Add Label");
   wxWindow* box = frame->GetStaticBox();
   wxSizer* row = AddFramed(column, frame, wxHORIZONTAL);
   labelField_ = new wxTextCtrl(box, kLabelFieldId, wxString(), wxDefaultPosition, wxDefaultSize,
@@ -127,7 +147,7 @@ void PropertiesPanel::buildLevelRow(wxSizer* column) {
 }
 
 void PropertiesPanel::buildColourBox(wxSizer* column) {
-  auto* frame = new wxStaticBoxSizer(wxVERTICAL, this, "Color");
+  auto* frame = MakeFrame(this, "Color");
   wxWindow* box = frame->GetStaticBox();
   wxSizer* row = AddFramed(column, frame, wxHORIZONTAL);
   colourChoice_ = new wxChoice(box, kColourChoiceId);
@@ -139,12 +159,13 @@ void PropertiesPanel::buildColourBox(wxSizer* column) {
 }
 
 void PropertiesPanel::buildGradeBox(wxSizer* column) {
-  auto* frame = new wxStaticBoxSizer(wxVERTICAL, this, "Set Grade");
+  auto* frame = MakeFrame(this, "Set Grade");
   wxWindow* box = frame->GetStaticBox();
   wxSizer* inside = AddFramed(column, frame, wxVERTICAL);
 
   auto* heightRow = new wxBoxSizer(wxHORIZONTAL);
-  heightCaption_ = AddText(box, heightRow, wxString());
+  // Its longest text, as that of the grade below, for what the panel's smallest width is to hold.
+  heightCaption_ = AddText(box, heightRow, ToWx(BaseHeightCaption(UnitOf(workspace_.layout()))));
   heightCaption_->SetName("heightCaption");
   heightRow->AddSpacer(kGap);
   heightField_ = new wxTextCtrl(box, kHeightFieldId, wxString(), wxDefaultPosition, wxDefaultSize,
@@ -156,7 +177,7 @@ void PropertiesPanel::buildGradeBox(wxSizer* column) {
   auto* gradeRow = new wxBoxSizer(wxHORIZONTAL);
   AddText(box, gradeRow, "Grade:");
   gradeRow->AddSpacer(kGap);
-  gradeValue_ = AddText(box, gradeRow, wxString());
+  gradeValue_ = AddText(box, gradeRow, ToWx(GradeText(kLongestGradeDeg)));
   gradeValue_->SetName("gradeValue");
   inside->Add(gradeRow, 0, wxEXPAND | wxTOP, kGap);
   gradeWarning_ = AddWrapped(box, inside, "gradeWarning", kInfoLines);

@@ -10,6 +10,7 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -39,12 +40,12 @@ void SetColourOf(wxWindow& control, const wxColour& colour) {
   control.Refresh();
 }
 
-// Puts the members of a row one below the other when it is narrower than they are together. True
+// Puts the members of a row one below the other when its room is less than they need together. True
 // when that changed.
-bool StackIfNarrow(wxBoxSizer& row) {
+bool StackIfNarrow(wxBoxSizer& row, int room) {
   int together = 0;
   for (wxSizerItem* item : row.GetChildren()) together += item->CalcMin().x;
-  const int direction = together <= row.GetSize().x ? wxHORIZONTAL : wxVERTICAL;
+  const int direction = together <= room ? wxHORIZONTAL : wxVERTICAL;
   if (row.GetOrientation() == direction) return false;
   row.SetOrientation(direction);
   return true;
@@ -149,16 +150,42 @@ void PropertiesPanel::showGrade(const GradeEntry& entry, bool keepTyped) {
   recalc_->Enable(entry.recalcEnabled);
 }
 
-wxSize PropertiesPanel::GetBestVirtualSize() const {
-  return {GetClientSize().x, GetSizer()->CalcMin().y};
+int PropertiesPanel::smallestWidth() const {
+  return widestContents_ + wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
 }
 
-// The sizers give each row and label its width; how many lines it takes for that shows only then.
-void PropertiesPanel::fitToWidth() {
-  FitInside();
+// With all rows stacked that can be.
+int PropertiesPanel::contentsWidth() const {
+  const int direction = gradeSettings_->GetOrientation();
+  const int buttonsDirection = gradeButtons_->GetOrientation();
+  gradeSettings_->SetOrientation(wxVERTICAL);
+  gradeButtons_->SetOrientation(wxVERTICAL);
+  const int width = GetSizer()->CalcMin().x;
+  gradeSettings_->SetOrientation(direction);
+  gradeButtons_->SetOrientation(buttonsDirection);
+  return width;
+}
+
+wxSize PropertiesPanel::GetBestVirtualSize() const {
+  const int width = std::max(GetClientSize().x, contentsWidth());
+  return {width, GetSizer()->CalcMin().y};
+}
+
+// Before each layout, since one that is too narrow for a row would squeeze the last control in it.
+bool PropertiesPanel::stackNarrowRows() {
+  const int room = GetBestVirtualSize().x - besideRows_;
   bool changed = false;
   for (wxBoxSizer* row : {gradeSettings_, gradeButtons_})
-    if (StackIfNarrow(*row)) changed = true;
+    if (StackIfNarrow(*row, room)) changed = true;
+  return changed;
+}
+
+// The sizers give each label its width; how many lines it takes for that shows only then.
+void PropertiesPanel::fitToWidth() {
+  stackNarrowRows();
+  FitInside();
+  besideRows_ = GetSizer()->GetSize().x - gradeSettings_->GetSize().x;
+  bool changed = stackNarrowRows();
   for (WrappedLabel* label : {titleLabel_, infoLabel_, gradeWarning_, hint_})
     if (label->wrapTo(label->GetSize().x)) changed = true;
   if (changed) FitInside();

@@ -35,7 +35,7 @@ inline constexpr int kAddLabelId = 4108;
 inline constexpr int kColourChoiceId = 4109;
 inline constexpr int kApplyColourId = 4110;
 
-// Scrolls only in a window too low for its controls.
+// Scrolls only in a window too low, or on a screen too narrow, for its controls.
 class PropertiesPanel : public wxScrolled<wxPanel> {
  public:
   // The tally's buttons lie on the `foot`, by default at the end of the panel.
@@ -50,6 +50,8 @@ class PropertiesPanel : public wxScrolled<wxPanel> {
   void RefreshTally();
   // The width at which the tally shows what it usually holds, in pixels.
   int usualWidth() const;
+  // The least width at which no control is cut off, with a scroll bar beside them.
+  int smallestWidth() const;
   // Where the next label goes, in world mm.
   void SetPendingLabelPosition(double x, double y);
 
@@ -57,7 +59,8 @@ class PropertiesPanel : public wxScrolled<wxPanel> {
   Vec2 pendingLabelPos() const { return pendingLabelPos_; }
   const SelectionPage& page() const { return page_; }
 
-  // As wide as what is seen of the panel: what doesn't fit gets another line, or less room.
+  // As wide as what is seen of the panel: what doesn't fit gets another line, or less room. Where
+  // even that is too narrow for a control, the panel scrolls sideways.
   wxSize GetBestVirtualSize() const override;
 
  private:
@@ -72,6 +75,8 @@ class PropertiesPanel : public wxScrolled<wxPanel> {
   void buildGradeBox(wxSizer* column);
   void buildGradeSettings(wxWindow* box, wxSizer* column);
   void buildGradeButtons(wxWindow* box, wxSizer* column);
+  int contentsWidth() const;
+  bool stackNarrowRows();
   void bindEvents();
 
   void show(SelectionPage page, Typed typed);
@@ -116,6 +121,8 @@ class PropertiesPanel : public wxScrolled<wxPanel> {
   wxButton* endGrade_ = nullptr;
   wxButton* recalc_ = nullptr;
   TallyPanel* tally_ = nullptr;
+  int widestContents_ = 0;  // contentsWidth() at the longest texts that are usual
+  int besideRows_ = 0;      // what frames and borders take of the width of a row in the grade box
 };
 
 }  // namespace vantrel

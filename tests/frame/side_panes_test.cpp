@@ -4,14 +4,19 @@
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/button.h>
+#include <wx/notebook.h>
 #include <wx/scrolwin.h>
+#include <wx/spinctrl.h>
 #include <wx/splitter.h>
+#include <wx/statusbr.h>
 #include <wx/utils.h>
 
+#include "app/services/least_width.h"
 #include "canvas/canvas_panel.h"
 #include "palette/palette_panel.h"
 #include "properties/properties_panel.h"
 #include "tests/frame/frame_fixture.h"
+#include "tests/frame/toolkit_below.h"
 
 namespace vantrel {
 namespace {
@@ -148,6 +153,56 @@ TEST_F(LowWindow, GetsNoSmallerThanItsPanesNeed) {
   EXPECT_GE(properties(), 200);
   // Twenty lines of text: the palette has a row of parts below its tabs.
   EXPECT_GE(outer().GetSize().y, 20 * frame().GetCharHeight());
+}
+
+TEST_F(LowWindow, SqueezesNoControlOnItsWayToItsSmallest) {
+  showFrame();
+  settle();
+  const ToolkitComplaints complaints;
+  for (int i = 0; i < 2; ++i) {
+    resize(1400);
+    resize(100, 100);
+  }
+  EXPECT_EQ(complaints.text(), "");
+}
+
+TEST_F(LowWindow, HasRoomForEachControlAtALargeFont) {
+  const ToolkitFont font("Sans 16");
+  const ToolkitComplaints complaints;
+  showFrame();
+  settle();
+  resize(100, 100);
+  EXPECT_EQ(complaints.text(), "");
+  for (wxNotebook* notebook : FindControls<wxNotebook>(frame()))
+    EXPECT_GE(notebook->GetSize().x, LeastWidth(*notebook));
+  for (wxSpinCtrlDouble* spin : FindControls<wxSpinCtrlDouble>(frame()))
+    EXPECT_GE(spin->GetSize().x, spin->GetBestSize().x);
+  const wxRect seen = inner().GetScreenRect();
+  for (wxButton* button : FindControls<wxButton>(frame())) {
+    EXPECT_GE(button->GetSize().x, button->GetBestSize().x) << button->GetLabel();
+    EXPECT_LE(button->GetScreenRect().GetRight(), seen.GetRight()) << button->GetLabel();
+  }
+  EXPECT_LE(frame().properties().GetVirtualSize().x, frame().properties().GetClientSize().x);
+  wxRect message;
+  wxStatusBar& bar = *frame().GetStatusBar();
+  ASSERT_TRUE(bar.GetFieldRect(0, message));
+  EXPECT_GE(message.width, bar.GetTextExtent("Ready").x);
+}
+
+TEST_F(SidePanesTest, ScrollSidewaysInAWindowTooNarrowForTheirControls) {
+  const ToolkitFont font("Sans 24");
+  showFrame();
+  settle();
+  const ToolkitComplaints complaints;
+  frame().SetMinSize(wxSize(100, 100));  // as a small display would have it
+  resize(700, 500);
+  EXPECT_EQ(complaints.text(), "");
+  PropertiesPanel& panel = frame().properties();
+  EXPECT_GT(panel.GetVirtualSize().x, panel.GetClientSize().x);
+  for (wxSpinCtrlDouble* spin : FindControls<wxSpinCtrlDouble>(panel))
+    EXPECT_GE(spin->GetSize().x, spin->GetBestSize().x);
+  panel.Scroll(1000, -1);
+  EXPECT_GT(panel.GetViewStart().x, 0);
 }
 
 // Run on a display of 800 by 600 too; here a larger one has room for the usual size.
