@@ -102,6 +102,8 @@ TEST_F(Experience, StandsInTheMiddleOfTheMainWindowAndCutsNothingOff) {
   showFrame();
   ModalScript script;
   script.shown("Choose Your Experience", [this](wxDialog& dialog) {
+    // The window manager puts it there in its own time.
+    WaitUntil([&] { return dialog.GetPosition().x > frame().GetPosition().x; });
     const wxRect outer = frame().GetRect();
     const wxRect inner = dialog.GetRect();
     EXPECT_NEAR(inner.x + inner.width / 2, outer.x + outer.width / 2, 1);

@@ -76,6 +76,7 @@ class FrameTest : public testing::Test {
   void showFrame() {
     frame().Show();
     WaitForPaint(frame().canvas());
+    WaitUntilSettled(frame().canvas());
   }
 
   // Waits until the status bar is painted without the canvas, twice: by itself the canvas is not
