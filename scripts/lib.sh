@@ -4,6 +4,8 @@
 build_packages=(g++ cmake ninja-build libwxgtk3.2-dev libgtest-dev libgl1-mesa-dri)
 # Only the tests of what is installed use them, and do without where they are missing.
 test_packages=(desktop-file-utils appstream libxml2-utils)
+# Other window managers, which do some things at other times, and the session bus that they want.
+test_packages+=(xfwm4 metacity dbus-daemon)
 # They make a build shorter; without them it takes the usual way.
 quick_packages=(mold ccache)
 display_packages=(xvfb xauth x11-utils openbox xdotool imagemagick fonts-dejavu-core

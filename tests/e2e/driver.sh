@@ -316,3 +316,26 @@ answer_box() {
 }
 
 piece_count() { grep -c '<piece ' "$1"; }
+
+# managing_window: the window by which the one in charge of the display is known.
+managing_window() { xprop -root -notype _NET_SUPPORTING_WM_CHECK 2>/dev/null | awk '{print $NF}'; }
+
+is_managed_by() {
+  local name
+  name=$(managing_window)
+  [ "$name" != "$2" ] && xprop -id "$name" -notype _NET_WM_NAME 2>/dev/null | grep -qi "$1"
+}
+
+# manage_with WINDOW-MANAGER: takes the display over from the one that runs.
+manage_with() {
+  local before
+  before=$(managing_window)
+  case $1 in
+    openbox) openbox --replace --config-file "$here/../../scripts/openbox.xml" >/dev/null 2>&1 & ;;
+    metacity) HOME=$output dbus-run-session -- metacity --replace --compositor=none >/dev/null 2>&1 & ;;
+    *) HOME=$output dbus-run-session -- "$1" --replace --compositor=off >/dev/null 2>&1 & ;;
+  esac
+  until_true 60 is_managed_by "$1" "$before" && return 0
+  problem="$1 doesn't manage the display"
+  return 1
+}
