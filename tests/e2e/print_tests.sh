@@ -222,7 +222,8 @@ preview_by_keys_twice() {
 test_preview_has_the_keyboard_and_the_middle_under_each_window_manager() {
   local manager failed=
   for manager in openbox xfwm4 metacity; do
-    [ $manager = openbox ] || { manage_with $manager && stop_program && start_program; } || break
+    [ $manager = openbox ] || { manage_with $manager && stop_program && start_program; } ||
+      { failed="$manager: $problem"; break; }
     preview_by_keys_twice || { failed="$manager: $problem"; break; }
   done
   [ $manager = openbox ] || manage_with openbox

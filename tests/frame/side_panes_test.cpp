@@ -158,11 +158,18 @@ TEST_F(LowWindow, GetsNoSmallerThanItsPanesNeed) {
 TEST_F(LowWindow, SqueezesNoControlOnItsWayToItsSmallest) {
   showFrame();
   settle();
+  wxSpinCtrlDouble* spin = FindControls<wxSpinCtrlDouble>(frame().properties()).front();
+  int narrowest = spin->GetSize().x;
+  spin->Bind(wxEVT_SIZE, [&](wxSizeEvent& event) {
+    event.Skip();
+    narrowest = std::min(narrowest, event.GetSize().x);
+  });
   const ToolkitComplaints complaints;
   for (int i = 0; i < 2; ++i) {
     resize(1400);
     resize(100, 100);
   }
+  EXPECT_GE(narrowest, spin->GetBestSize().x);
   EXPECT_EQ(complaints.text(), "");
 }
 

@@ -2,7 +2,12 @@
 #pragma once
 
 #include <dlfcn.h>
+#include <unistd.h>
 
+#include <algorithm>
+#include <cstddef>
+#include <cstdio>
+#include <sstream>
 #include <string>
 
 namespace vantrel {
@@ -13,30 +18,36 @@ Function* FromToolkitBelow(const char* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_DEFAULT, name));
 }
 
-// Gathers the warnings that would go to standard error.
+// Gathers the warnings that it writes to standard error, where they no longer go meanwhile.
 class ToolkitComplaints {
  public:
-  ToolkitComplaints() { previous_ = set(&ToolkitComplaints::hear, &text_); }
-  ~ToolkitComplaints() { set(previous_, nullptr); }
+  ToolkitComplaints() : file_(std::tmpfile()), before_(dup(STDERR_FILENO)) {
+    dup2(fileno(file_), STDERR_FILENO);
+  }
+  ~ToolkitComplaints() {
+    std::fflush(stderr);
+    dup2(before_, STDERR_FILENO);
+    close(before_);
+    std::fclose(file_);
+  }
   ToolkitComplaints(const ToolkitComplaints&) = delete;
   ToolkitComplaints& operator=(const ToolkitComplaints&) = delete;
 
-  const std::string& text() const { return text_; }
+  std::string text() const {
+    std::fflush(stderr);
+    std::string all(static_cast<std::size_t>(lseek(STDERR_FILENO, 0, SEEK_END)), ' ');
+    const ssize_t read = pread(fileno(file_), all.data(), all.size(), 0);
+    std::istringstream lines(all.substr(0, static_cast<std::size_t>(std::max<ssize_t>(read, 0))));
+    std::string complaints;
+    for (std::string line; std::getline(lines, line);)
+      if (line.find("-CRITICAL") != std::string::npos || line.find("-WARNING") != std::string::npos)
+        complaints += line + "\n";
+    return complaints;
+  }
 
  private:
-  using Handler = void (*)(const char* domain, int level, const char* message, void* data);
-
-  static Handler set(Handler handler, void* data) {
-    return FromToolkitBelow<Handler(Handler, void*)>("g_log_set_default_handler")(handler, data);
-  }
-  static void hear(const char* domain, int level, const char* message, void* data) {
-    constexpr int kErrorsToWarnings = 4 | 8 | 16;
-    if ((level & kErrorsToWarnings) == 0) return;
-    *static_cast<std::string*>(data) += std::string(domain ? domain : "") + ": " + message + "\n";
-  }
-
-  std::string text_;
-  Handler previous_ = nullptr;
+  std::FILE* file_;
+  int before_;
 };
 
 // Its name and size as the desktop's settings have them, "Sans 16".
