@@ -14,7 +14,7 @@ build asan
 
 echo "== The program and all tests"
 build release
-# A real window manager, because focus and activation depend on one. Twice as many tests as cores at a
-# time: those that drive the program wait for it more than they work.
+# A real window manager, because focus and activation depend on one. Three times as many tests as cores
+# at a time: those that drive the program wait for it more than they work.
 (cd "$root" && "$root/scripts/on_virtual_display.sh" \
-  ctest --preset release -j "$((2 * $(nproc)))" --output-on-failure --no-tests=error)
+  ctest --preset release -j "$((3 * $(nproc)))" --output-on-failure --no-tests=error)

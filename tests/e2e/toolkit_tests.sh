@@ -14,14 +14,19 @@ no_toolkit_complaints() {
   ! toolkit_complaints >"$store/complaints" || { problem="after $1: $(head -n 2 "$store/complaints")"; return 1; }
 }
 
+# closed TITLE: the window is there, and Escape takes it away.
+closed() {
+  window "^$1\$" >/dev/null || return 1
+  settle
+  key Escape
+  window_gone "^$1\$" || return 1
+  no_toolkit_complaints "$1"
+}
+
 # seen_and_closed KEYS TITLE: the dialog of these keys comes up, and Escape takes it away.
 seen_and_closed() {
   key $1
-  window "^$2\$" >/dev/null || return 1
-  settle
-  key Escape
-  window_gone "^$2\$" || return 1
-  no_toolkit_complaints "$2"
+  closed "$2"
 }
 
 # shrunk_to_its_smallest: the main window, at once and twice.
@@ -47,6 +52,16 @@ windows_come_up_quietly() {
   seen_and_closed 'alt+h o' 'Choose Your Experience' || return 1
   seen_and_closed 'alt+l s' 'Layout Baseboard' || return 1
   seen_and_closed ctrl+p 'Print Options' || return 1
+  seen_and_closed 'alt+f i' 'Import Layout' || return 1
+  seen_and_closed 'alt+f e' 'Export Layout' || return 1
+  press_levels || return 1
+  closed 'Manage Levels' || return 1
+  click_view_tool
+  window '^3D View - Vantrel$' >/dev/null || return 1
+  settle
+  no_toolkit_complaints "the 3D window" || return 1
+  xdotool windowactivate --sync "$main"
+  settle
   key alt+f v
   window '^Print Preview' >/dev/null || return 1
   settle
