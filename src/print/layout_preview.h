@@ -10,10 +10,9 @@
 
 namespace vantrel {
 
-// The preview's "Print" button asks `mayPrint` first, with the data that it
-// shows, and reports to `printed`: whether it went
-// well, and the printer data that the user chose. In its place `previewWanted` gets these data when
-// the user pressed "Preview" in the printer's dialog.
+// The preview's "Print" button asks `mayPrint` first, with the data that it shows, and reports to
+// `printed`: whether it went well, and the printer data that the user chose. In its place
+// `previewWanted` gets these data when the user pressed "Preview" in the printer's dialog.
 struct PreviewPrinting {
   std::function<bool(const wxPrintData& data)> mayPrint;
   std::function<void(bool done, const wxPrintData& data)> printed;

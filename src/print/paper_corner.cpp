@@ -1,9 +1,10 @@
 #include "print/paper_corner.h"
 
-#include <dlfcn.h>
 #include <wx/dcprint.h>
 
 #include <cmath>
+
+#include "app/services/toolkit_below.h"
 
 namespace vantrel {
 namespace {
@@ -18,10 +19,9 @@ double Shift(double factor, double offset, double length) {
   return std::abs(shift) <= kMostPart * length ? shift : 0.0;
 }
 
-// The library that the printer draws with is loaded, but its headers are no part of the build.
 using GetMatrix = void(void* context, PageTransform* matrix);
 GetMatrix* MatrixGetter() {
-  return reinterpret_cast<GetMatrix*>(dlsym(RTLD_DEFAULT, "cairo_get_matrix"));
+  return FunctionBelowToolkit<GetMatrix>("cairo_get_matrix");
 }
 
 }  // namespace

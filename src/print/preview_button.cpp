@@ -3,8 +3,9 @@
 #include <wx/dialog.h>
 
 #ifdef __WXGTK__
-#include <dlfcn.h>
 #include <wx/gtk/print.h>
+
+#include "app/services/toolkit_below.h"
 #endif
 
 namespace vantrel {
@@ -35,7 +36,7 @@ struct PrintLibrary {
 
 template <typename Function>
 void Find(Function*& function, const char* name) {
-  function = reinterpret_cast<Function*>(dlsym(RTLD_DEFAULT, name));
+  function = FunctionBelowToolkit<Function>(name);
 }
 
 const PrintLibrary& Library() {

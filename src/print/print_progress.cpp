@@ -3,12 +3,13 @@
 #include <wx/prntbase.h>
 
 #ifdef __WXGTK__
-#include <dlfcn.h>
 #include <wx/gtk/print.h>
 #endif
 
 #include <string>
 #include <utility>
+
+#include "app/services/toolkit_below.h"
 
 namespace vantrel {
 
@@ -35,7 +36,7 @@ void cancelPrintJob(wxPrintData& data) {
 #ifdef __WXGTK__
   // The library that the toolkit prints with is loaded, but its headers are no part of the build.
   using Cancel = void(GtkPrintOperation*);
-  auto* const cancel = reinterpret_cast<Cancel*>(dlsym(RTLD_DEFAULT, "gtk_print_operation_cancel"));
+  auto* const cancel = FunctionBelowToolkit<Cancel>("gtk_print_operation_cancel");
   auto* const native = dynamic_cast<wxGtkPrintNativeData*>(data.GetNativeData());
   if (cancel != nullptr && native != nullptr && native->GetPrintJob() != nullptr)
     cancel(native->GetPrintJob());

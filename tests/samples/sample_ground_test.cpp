@@ -23,20 +23,12 @@
 #include "catalog/track_catalog.h"
 #include "doc/layout_ops.h"
 #include "io/layout_file.h"
+#include "tests/samples/sample_files.h"
 
 namespace vantrel {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::vector<fs::path> SampleFiles() {
-  std::vector<fs::path> files;
-  for (const fs::directory_entry& entry :
-       fs::directory_iterator(fs::path(VANTREL_SOURCE_DIR) / "samples"))
-    if (entry.path().extension() == ".vtl") files.push_back(entry.path());
-  std::sort(files.begin(), files.end());
-  return files;
-}
 
 Layout Sample(const fs::path& file) {
   Layout layout;

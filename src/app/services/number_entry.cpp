@@ -1,12 +1,13 @@
 #include "app/services/number_entry.h"
 
-#include <dlfcn.h>
 #include <wx/clntdata.h>
 #include <wx/colour.h>
 #include <wx/spinctrl.h>
 #include <wx/tooltip.h>
 
 #include <algorithm>
+
+#include "app/services/toolkit_below.h"
 
 namespace vantrel {
 namespace {
@@ -66,19 +67,14 @@ bool IsEnter(const wxKeyEvent& event) {
   return event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER;
 }
 
-// The spin control has no way to type into it but the keyboard. Its widget is an editable of the
-// library below the toolkit, which is loaded; its headers are no part of the build.
-template <typename Function>
-Function* Native(const char* name) {
-  return reinterpret_cast<Function*>(dlsym(RTLD_DEFAULT, name));
-}
-
-// As if a point were typed. False where the platform has no such widget.
+// As if a point were typed: the spin control has no way to type into it but the keyboard, but its
+// widget is an editable of the library below. False where the platform has no such widget.
 bool TypePoint(wxSpinCtrlBase& spin) {
-  auto* const removeSelected = Native<void(void*)>("gtk_editable_delete_selection");
-  auto* const position = Native<int(void*)>("gtk_editable_get_position");
-  auto* const insert = Native<void(void*, const char*, int, int*)>("gtk_editable_insert_text");
-  auto* const setPosition = Native<void(void*, int)>("gtk_editable_set_position");
+  auto* const removeSelected = FunctionBelowToolkit<void(void*)>("gtk_editable_delete_selection");
+  auto* const position = FunctionBelowToolkit<int(void*)>("gtk_editable_get_position");
+  auto* const insert =
+      FunctionBelowToolkit<void(void*, const char*, int, int*)>("gtk_editable_insert_text");
+  auto* const setPosition = FunctionBelowToolkit<void(void*, int)>("gtk_editable_set_position");
   void* const widget = spin.GetHandle();
   if (!removeSelected || !position || !insert || !setPosition || !widget) return false;
   removeSelected(widget);
